@@ -1,0 +1,215 @@
+// The settings file: reading and writing single values the way the classic
+// profile functions do, and loading every setting into the globals.
+
+#include <QFile>
+#include <QSaveFile>
+#include <QStringList>
+#include <cmath>
+
+#include "core/Genel.h"
+#include "core/Mesaj.h"
+
+namespace Genel {
+
+namespace {
+
+// The value buffer of the profile functions holds 255 characters with the
+// terminating NUL.
+constexpr int kEnUzunDeger = 254;
+
+struct IniMetni {
+  QStringList satirlar;
+  QString satirSonu = QStringLiteral("\n");
+  bool sonSatirSonuVar = true;
+};
+
+IniMetni IniYukle(const QString& dosya) {
+  IniMetni m;
+  QFile f(dosya);
+  if (!f.open(QIODevice::ReadOnly)) return m;
+  const QString metin = QString::fromUtf8(f.readAll());
+  if (metin.contains(QStringLiteral("\r\n"))) m.satirSonu = QStringLiteral("\r\n");
+  m.sonSatirSonuVar = metin.isEmpty() || metin.endsWith(QLatin1Char('\n'));
+  m.satirlar = metin.split(QLatin1Char('\n'));
+  if (m.sonSatirSonuVar && !m.satirlar.isEmpty()) m.satirlar.removeLast();
+  for (QString& s : m.satirlar)
+    if (s.endsWith(QLatin1Char('\r'))) s.chop(1);
+  return m;
+}
+
+// Name of a section header line, or a null string when the line is none.
+QString BolumAdi(const QString& satir) {
+  const QString t = satir.trimmed();
+  if (!t.startsWith(QLatin1Char('['))) return QString();
+  const int son = t.indexOf(QLatin1Char(']'));
+  const QString ad = son < 0 ? t.mid(1) : t.mid(1, son - 1);
+  return ad.trimmed().isNull() ? QStringLiteral("") : ad.trimmed();
+}
+
+bool AnahtarSatiri(const QString& satir, QString& anahtar, QString& deger) {
+  const int esit = satir.indexOf(QLatin1Char('='));
+  if (esit < 0) return false;
+  anahtar = satir.left(esit).trimmed();
+  deger = satir.mid(esit + 1).trimmed();
+  return true;
+}
+
+bool Ayni(const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) == 0; }
+
+// Line index of the first header of the section, or -1.
+int BolumBul(const QStringList& satirlar, const QString& bolum) {
+  for (int i = 0; i < satirlar.size(); ++i) {
+    const QString ad = BolumAdi(satirlar[i]);
+    if (!ad.isNull() && Ayni(ad, bolum)) return i;
+  }
+  return -1;
+}
+
+// One past the last line that belongs to the section starting at `bas`.
+int BolumSonu(const QStringList& satirlar, int bas) {
+  int i = bas + 1;
+  while (i < satirlar.size() && BolumAdi(satirlar[i]).isNull()) ++i;
+  return i;
+}
+
+}  // namespace
+
+QString IniOku(const QString& Dosya, const QString& Bolum, const QString& Anahtar,
+               const QString& Varsayilan) {
+  const IniMetni m = IniYukle(Dosya);
+  const int bas = BolumBul(m.satirlar, Bolum);
+  if (bas < 0) return Varsayilan;
+  const int son = BolumSonu(m.satirlar, bas);
+  for (int i = bas + 1; i < son; ++i) {
+    QString a, d;
+    if (!AnahtarSatiri(m.satirlar[i], a, d) || !Ayni(a, Anahtar)) continue;
+    if (d.size() >= 2 && ((d.startsWith('"') && d.endsWith('"')) ||
+                          (d.startsWith('\'') && d.endsWith('\''))))
+      d = d.mid(1, d.size() - 2);
+    return d.left(kEnUzunDeger);
+  }
+  return Varsayilan;
+}
+
+void IniYaz(const QString& Dosya, const QString& Bolum, const QString& Anahtar,
+            const QString& Deger) {
+  QString deger = Deger;
+  deger.replace(QLatin1Char('\r'), QLatin1Char(' '));
+  deger.replace(QLatin1Char('\n'), QLatin1Char(' '));
+  IniMetni m = IniYukle(Dosya);
+  const QString yeni = Anahtar + QLatin1Char('=') + deger;
+
+  const int bas = BolumBul(m.satirlar, Bolum);
+  if (bas < 0) {
+    if (!m.satirlar.isEmpty() && !m.satirlar.last().trimmed().isEmpty()) m.satirlar << QString();
+    m.satirlar << QLatin1Char('[') + Bolum + QLatin1Char(']') << yeni;
+  } else {
+    const int son = BolumSonu(m.satirlar, bas);
+    int yer = -1;
+    int sonAnahtar = bas;
+    for (int i = bas + 1; i < son; ++i) {
+      QString a, d;
+      if (!AnahtarSatiri(m.satirlar[i], a, d)) continue;
+      sonAnahtar = i;
+      if (Ayni(a, Anahtar)) {
+        yer = i;
+        break;
+      }
+    }
+    if (yer >= 0)
+      m.satirlar[yer] = yeni;
+    else
+      m.satirlar.insert(sonAnahtar + 1, yeni);
+  }
+
+  QSaveFile f(Dosya);
+  if (!f.open(QIODevice::WriteOnly)) return;
+  f.write((m.satirlar.join(m.satirSonu) + m.satirSonu).toUtf8());
+  if (f.commit())
+    QFile::setPermissions(Dosya, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+}
+
+void BinlikAyiriciBul() {
+  // 100000 with the regional group separator, no decimals.
+  const QString bicimli = SayiYaz(100000, 0, true);
+  BinlikAyirici.clear();
+  if (bicimli.contains(QLatin1Char('.')))
+    BinlikAyirici = QStringLiteral(".");
+  else if (bicimli.contains(QLatin1Char(',')))
+    BinlikAyirici = QStringLiteral(",");
+  else
+    mesaj::Kritik(QStringLiteral("Bilinmeyen binlik numara ayırıcısı!!"), QStringLiteral("UYARI"));
+}
+
+namespace {
+
+// The number at the start of a text, rounded to a 16-bit integer.
+int SayiAyari(const QString& metin) {
+  const QString t = metin.trimmed();
+  int i = 0;
+  QString s;
+  if (i < t.size() && (t[i] == QLatin1Char('-') || t[i] == QLatin1Char('+'))) s += t[i++];
+  bool nokta = false;
+  for (; i < t.size(); ++i) {
+    const QChar c = t[i];
+    if (c.isDigit() && c.unicode() < 128) {
+      s += c;
+    } else if (c == QLatin1Char('.') && !nokta) {
+      nokta = true;
+      s += c;
+    } else {
+      break;
+    }
+  }
+  bool ok = false;
+  double x = s.toDouble(&ok);
+  if (!ok) return 0;
+  x = std::nearbyint(x);  // to even, as the integer conversion does
+  if (x > 32767) return 32767;
+  if (x < -32768) return -32768;
+  return int(x);
+}
+
+int Sayi(const QString& bolum, const QString& anahtar, int varsayilan) {
+  return SayiAyari(IniOku(IniDosya, bolum, anahtar, QString::number(varsayilan)));
+}
+
+}  // namespace
+
+void AyarOku() {
+  const QString F = QStringLiteral("Fatura"), H = QStringLiteral("Hesap"),
+                S = QStringLiteral("Sozlesme"), K = QStringLiteral("Koruma");
+  PrinterFatura = IniOku(IniDosya, F, QStringLiteral("Printer"), QStringLiteral("LPT2"));
+  BasBosluk = Sayi(F, QStringLiteral("BasBosluk"), 11);
+  SonBosluk = Sayi(F, QStringLiteral("SonBosluk"), 10);
+  IsimBas = Sayi(F, QStringLiteral("IsimBas"), 24);
+  TarihAtla = Sayi(F, QStringLiteral("TarihAtla"), 4);
+  TarihBas = Sayi(F, QStringLiteral("TarihBas"), 59);
+  VergiAtla = Sayi(F, QStringLiteral("VergiAtla"), 5);
+  VergiBas = Sayi(F, QStringLiteral("VergiBas"), 22);
+  TutarSatirAtla = Sayi(F, QStringLiteral("TutarSatirAtla"), 4);
+  TutarBas = Sayi(F, QStringLiteral("TutarBas"), 58);
+  DetaySatirAtla = Sayi(F, QStringLiteral("DetaySatirAtla"), 9);
+  YeniSayfaAtla = Sayi(F, QStringLiteral("YeniSayfaAtla"), 7);
+  Sayfabasi = Sayi(F, QStringLiteral("Sayfabasi"), 0) > 0;
+  PulBedeli = Sayi(F, QStringLiteral("PulBedeli"), 1) > 0;
+
+  IlaveGun = Sayi(H, QStringLiteral("IlaveGun"), 3);
+  HaftaSonu = Sayi(H, QStringLiteral("HaftaSonu"), 0) == 1;
+
+  PrinterSozlesme = IniOku(IniDosya, S, QStringLiteral("Printer"), QStringLiteral("LPT1"));
+  DetayBasBosluk = Sayi(S, QStringLiteral("DetayBasBosluk"), 0);
+  MasrafGoster = Sayi(S, QStringLiteral("MasrafGoster"), 1) > 0;
+  Hesapla = Sayi(S, QStringLiteral("Hesapla"), 1) == 1;
+  OrtalamaGun = Sayi(S, QStringLiteral("OrtalamaGun"), 0) == 1;
+  DetayToplamYaz = Sayi(S, QStringLiteral("DetayToplamYaz"), 1) == 1;
+  DetayLimit = std::max(2, Sayi(S, QStringLiteral("DetayLimit"), 22));
+
+  SadeceGoster = Sayi(K, QStringLiteral("SadeceGoster"), 0) > 0;
+
+  SahipAdi = IniOku(IniDosya, QStringLiteral("Kurulum"), QStringLiteral("SahipAdi"), QString());
+}
+
+int AyarSayisi(const QString& metin) { return SayiAyari(metin); }
+
+}  // namespace Genel

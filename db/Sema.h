@@ -1,0 +1,17 @@
+#pragma once
+// The tables, views and reference data of a new database.
+
+#include <QStringList>
+
+namespace db {
+
+class Baglanti;
+
+// Creates every table, index and view and fills the reference data, in one
+// transaction.
+void SemaOlustur(Baglanti& b);
+
+// The provinces in traffic-code order (code = position + 1).
+const QStringList& Iller();
+
+}  // namespace db
