@@ -45,8 +45,8 @@ QString DizinHazirla(const char* degisken, const QString& varsayilan) {
   QDir d;
   if (!d.exists(yol)) {
     if (!d.mkpath(yol)) return QString();
-    QFile::setPermissions(yol, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                   QFileDevice::ExeOwner);
+    QFile::setPermissions(yol,
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
   }
   return QDir(yol).absolutePath();
 }
@@ -202,18 +202,42 @@ QByteArray DosKarakter(const QString& s) {
   r.reserve(s.size());
   for (QChar c : s) {
     switch (c.unicode()) {
-      case 0x00F6: r += char(148); break;  // ö
-      case 0x00D6: r += char(153); break;  // Ö
-      case 0x00FC: r += char(129); break;  // ü
-      case 0x00DC: r += char(154); break;  // Ü
-      case 0x00E7: r += char(135); break;  // ç
-      case 0x00C7: r += char(128); break;  // Ç
-      case 0x015F: r += char(159); break;  // ş
-      case 0x015E: r += char(158); break;  // Ş
-      case 0x011F: r += char(167); break;  // ğ
-      case 0x011E: r += char(166); break;  // Ğ
-      case 0x0131: r += char(141); break;  // ı
-      case 0x0130: r += char(152); break;  // İ
+      case 0x00F6:
+        r += char(148);
+        break;  // ö
+      case 0x00D6:
+        r += char(153);
+        break;  // Ö
+      case 0x00FC:
+        r += char(129);
+        break;  // ü
+      case 0x00DC:
+        r += char(154);
+        break;  // Ü
+      case 0x00E7:
+        r += char(135);
+        break;  // ç
+      case 0x00C7:
+        r += char(128);
+        break;  // Ç
+      case 0x015F:
+        r += char(159);
+        break;  // ş
+      case 0x015E:
+        r += char(158);
+        break;  // Ş
+      case 0x011F:
+        r += char(167);
+        break;  // ğ
+      case 0x011E:
+        r += char(166);
+        break;  // Ğ
+      case 0x0131:
+        r += char(141);
+        break;  // ı
+      case 0x0130:
+        r += char(152);
+        break;  // İ
       default:
         // Every other character goes out as its single byte; what has none
         // becomes a question mark.
@@ -245,8 +269,10 @@ QDate TarihOku(const QString& s) {
   const int ay = m.captured(2).toInt();
   const QString yilMetni = m.captured(3);
   int yil = yilMetni.toInt();
-  if (yilMetni.size() <= 2) yil += yil < 30 ? 2000 : 1900;  // the usual window 1930..2029
-  else if (yilMetni.size() == 3) return QDate();
+  if (yilMetni.size() <= 2)
+    yil += yil < 30 ? 2000 : 1900;  // the usual window 1930..2029
+  else if (yilMetni.size() == 3)
+    return QDate();
   return QDate(yil, ay, gun);
 }
 

@@ -83,8 +83,8 @@ QString IniOku(const QString& Dosya, const QString& Bolum, const QString& Anahta
   for (int i = bas + 1; i < son; ++i) {
     QString a, d;
     if (!AnahtarSatiri(m.satirlar[i], a, d) || !Ayni(a, Anahtar)) continue;
-    if (d.size() >= 2 && ((d.startsWith('"') && d.endsWith('"')) ||
-                          (d.startsWith('\'') && d.endsWith('\''))))
+    if (d.size() >= 2 &&
+        ((d.startsWith('"') && d.endsWith('"')) || (d.startsWith('\'') && d.endsWith('\''))))
       d = d.mid(1, d.size() - 2);
     return d.left(kEnUzunDeger);
   }
@@ -125,8 +125,7 @@ void IniYaz(const QString& Dosya, const QString& Bolum, const QString& Anahtar,
   QSaveFile f(Dosya);
   if (!f.open(QIODevice::WriteOnly)) return;
   f.write((m.satirlar.join(m.satirSonu) + m.satirSonu).toUtf8());
-  if (f.commit())
-    QFile::setPermissions(Dosya, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+  if (f.commit()) QFile::setPermissions(Dosya, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
 }
 
 void BinlikAyiriciBul() {

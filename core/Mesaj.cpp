@@ -25,11 +25,21 @@ Dugme Goster(const QString& metin, const QString& baslik, Tur tur, Dugmeler dugm
   kutu.setText(metin);
   kutu.setWindowTitle(baslik.isEmpty() ? QStringLiteral("Velmora") : baslik);
   switch (tur) {
-    case Tur::Kritik: kutu.setIcon(QMessageBox::Critical); break;
-    case Tur::Unlem: kutu.setIcon(QMessageBox::Warning); break;
-    case Tur::Bilgi: kutu.setIcon(QMessageBox::Information); break;
-    case Tur::Soru: kutu.setIcon(QMessageBox::Question); break;
-    case Tur::Duz: kutu.setIcon(QMessageBox::NoIcon); break;
+    case Tur::Kritik:
+      kutu.setIcon(QMessageBox::Critical);
+      break;
+    case Tur::Unlem:
+      kutu.setIcon(QMessageBox::Warning);
+      break;
+    case Tur::Bilgi:
+      kutu.setIcon(QMessageBox::Information);
+      break;
+    case Tur::Soru:
+      kutu.setIcon(QMessageBox::Question);
+      break;
+    case Tur::Duz:
+      kutu.setIcon(QMessageBox::NoIcon);
+      break;
   }
   QPushButton* tamam = nullptr;
   QPushButton* iptal = nullptr;

@@ -8,8 +8,8 @@ namespace Genel {
 
 QString UcHaneYazi(double Sayi) {
   if (!(Sayi > 0)) return QString();
-  static const char* const birler[] = {"",     "BİR",   "İKİ",   "ÜÇ",    "DÖRT",
-                                       "BEŞ",  "ALTI",  "YEDİ",  "SEKİZ", "DOKUZ"};
+  static const char* const birler[] = {"",    "BİR",  "İKİ",  "ÜÇ",    "DÖRT",
+                                       "BEŞ", "ALTI", "YEDİ", "SEKİZ", "DOKUZ"};
   static const char* const onlar[] = {"",     "ON",     "YİRMİ",  "OTUZ",   "KIRK",
                                       "ELLİ", "ALTMIŞ", "YETMİŞ", "SEKSEN", "DOKSAN"};
   const long long n = static_cast<long long>(Sayi) % 1000;

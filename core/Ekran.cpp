@@ -1,0 +1,301 @@
+#include "core/Ekran.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QHash>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QPointer>
+#include <QScreen>
+#include <QTimer>
+
+#include "core/Form.h"
+#include "core/Genel.h"
+#include "core/Mesaj.h"
+
+namespace ekran {
+
+namespace {
+
+const char* const kKontrolYok = "velmoraKontrolTetiklemez";
+
+// Runs the leave checks: one filter on the application watches focus changes
+// and drops the mouse release that would click the control which took the
+// focus from a field whose check failed.
+class AyrilmaBekcisi : public QObject {
+ public:
+  static AyrilmaBekcisi& O() {
+    static AyrilmaBekcisi* b = new AyrilmaBekcisi(qApp);
+    return *b;
+  }
+
+  void Ekle(QWidget* w, std::function<bool()> f) {
+    kontroller_[w] = std::move(f);
+    connect(w, &QObject::destroyed, this, [this, w] { kontroller_.remove(w); });
+  }
+
+  bool Calistir(QWidget* w) {
+    auto it = kontroller_.find(w);
+    if (it == kontroller_.end() || calisiyor_) return true;
+    calisiyor_ = true;
+    const bool ok = it.value()();
+    calisiyor_ = false;
+    return ok;
+  }
+
+ protected:
+  bool eventFilter(QObject* o, QEvent* e) override {
+    if (engel_ && o == engel_ &&
+        (e->type() == QEvent::MouseButtonRelease || e->type() == QEvent::MouseButtonDblClick)) {
+      engel_ = nullptr;
+      return true;
+    }
+    if (e->type() == QEvent::MouseButtonPress && engel_ && o != engel_) engel_ = nullptr;
+    return false;
+  }
+
+ private:
+  explicit AyrilmaBekcisi(QObject* ust) : QObject(ust) {
+    qApp->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this, &AyrilmaBekcisi::OdakDegisti);
+  }
+
+  void OdakDegisti(QWidget* eski, QWidget* yeni) {
+    if (!eski || geriVeriliyor_ || !kontroller_.contains(eski)) return;
+    if (!yeni || yeni->property(kKontrolYok).toBool()) return;
+    // Focus moving inside the same composite control (a combo's line edit).
+    if (eski->isAncestorOf(yeni) || yeni->isAncestorOf(eski)) return;
+    if (Calistir(eski)) return;
+    engel_ = yeni;
+    geriVeriliyor_ = true;
+    eski->setFocus(Qt::OtherFocusReason);
+    if (auto* kutu = qobject_cast<QLineEdit*>(eski)) kutu->selectAll();
+    geriVeriliyor_ = false;
+  }
+
+  QHash<QWidget*, std::function<bool()>> kontroller_;
+  QPointer<QWidget> engel_;
+  bool geriVeriliyor_ = false;
+  bool calisiyor_ = false;
+};
+
+class OdakSecici : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  bool eventFilter(QObject* o, QEvent* e) override {
+    if (e->type() == QEvent::FocusIn) {
+      QPointer<QLineEdit> kutu = qobject_cast<QLineEdit*>(o);
+      // After the click that gave the focus has placed the cursor.
+      QTimer::singleShot(0, kutu, [kutu] {
+        if (kutu && kutu->hasFocus()) MetinSec(kutu);
+      });
+    }
+    return false;
+  }
+};
+
+class TusSuzgeci : public QObject {
+ public:
+  enum class Tur { BuyukHarf, Sayi, Tarih };
+  TusSuzgeci(QObject* ust, Tur t) : QObject(ust), tur_(t) {}
+
+ protected:
+  bool eventFilter(QObject* o, QEvent* e) override {
+    if (e->type() != QEvent::KeyPress) return false;
+    auto* k = static_cast<QKeyEvent*>(e);
+    auto* kutu = qobject_cast<QLineEdit*>(o);
+    if (!kutu) return false;
+    if (tur_ == Tur::Tarih) {
+      if (k->key() == Qt::Key_Escape) {
+        kutu->clear();
+        return true;
+      }
+      return false;
+    }
+    if (k->key() == Qt::Key_Return || k->key() == Qt::Key_Enter)
+      return tur_ == Tur::Sayi;  // Enter is no number key
+    const QString t = k->text();
+    if (t.size() != 1 || k->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) return false;
+    const QChar c = t[0];
+    if (!c.isPrint()) return false;
+    if (tur_ == Tur::Sayi) return Genel::SayiTusu(c).isNull();
+    const QChar b = Genel::BuyukHarf(c);
+    if (b == c) return false;
+    if (!kutu->isReadOnly()) kutu->insert(QString(b));
+    return true;
+  }
+
+ private:
+  Tur tur_;
+};
+
+class EnterSuzgeci : public QObject {
+ public:
+  EnterSuzgeci(QObject* ust, std::function<void()> f) : QObject(ust), f_(std::move(f)) {}
+
+ protected:
+  bool eventFilter(QObject*, QEvent* e) override {
+    if (e->type() == QEvent::KeyPress) {
+      const int tus = static_cast<QKeyEvent*>(e)->key();
+      if (tus == Qt::Key_Return || tus == Qt::Key_Enter) {
+        f_();
+        return true;
+      }
+    }
+    return false;
+  }
+
+ private:
+  std::function<void()> f_;
+};
+
+bool gAnlik = false;
+
+struct Kayitlar {
+  QHash<QString, Uretici> uretici;
+  QHash<QString, QPointer<QWidget>> acik;
+  QHash<QString, std::function<void()>> komut;
+  Yerlestirici yerlestir;
+  std::function<QWidget*()> ana;
+};
+
+Kayitlar& K() {
+  static Kayitlar k;
+  return k;
+}
+
+}  // namespace
+
+void AyrilirkenKontrol(QWidget* kontrol, std::function<bool()> kontrolEt) {
+  AyrilmaBekcisi::O().Ekle(kontrol, std::move(kontrolEt));
+}
+
+void KontrolTetiklemez(QWidget* kontrol) { kontrol->setProperty(kKontrolYok, true); }
+
+bool KontrolCalistir(QWidget* kontrol) { return AyrilmaBekcisi::O().Calistir(kontrol); }
+
+void MetinSec(QLineEdit* kutu) { kutu->setSelection(0, int(kutu->text().size())); }
+
+void MetinSec(QWidget* ekran, const QString& kontrolAdi) {
+  if (auto* kutu = ekran->findChild<QLineEdit*>(kontrolAdi)) MetinSec(kutu);
+}
+
+void MetinSecKur(QLineEdit* kutu) { kutu->installEventFilter(new OdakSecici(kutu)); }
+
+void BuyukHarfKur(QLineEdit* kutu) {
+  kutu->installEventFilter(new TusSuzgeci(kutu, TusSuzgeci::Tur::BuyukHarf));
+}
+
+void SayiTusuKur(QLineEdit* kutu) {
+  kutu->installEventFilter(new TusSuzgeci(kutu, TusSuzgeci::Tur::Sayi));
+}
+
+void TarihKutusuKur(QLineEdit* kutu) {
+  kutu->installEventFilter(new TusSuzgeci(kutu, TusSuzgeci::Tur::Tarih));
+}
+
+bool TarihDuzelt(QLineEdit* kutu) {
+  QString metin = kutu->text();
+  if (Genel::TarihTamamla(metin, QDate::currentDate())) {
+    if (metin != kutu->text()) kutu->setText(metin);
+    return true;
+  }
+  mesaj::Goster(QStringLiteral("Hatalı Tarih Bilgisi."), QStringLiteral("Giriş Hatası"),
+                mesaj::Tur::Unlem);
+  return false;
+}
+
+void EnterKur(QWidget* kutu, std::function<void()> islem) {
+  kutu->installEventFilter(new EnterSuzgeci(kutu, std::move(islem)));
+}
+
+int Twip(int twip) { return (twip + 7) / 15; }  // 96 dots to the inch
+
+void FormOrtala(QWidget* ekran, int yukseklik, int genislik, bool kaydirmaYok) {
+  QWidget* cerceve = ekran;
+  if (auto* alt = qobject_cast<QMdiSubWindow*>(ekran->parentWidget())) cerceve = alt;
+  cerceve->resize(Twip(genislik), Twip(yukseklik));
+  QWidget* ana = cerceve->parentWidget();
+  QSize alan = ana ? ana->size() : QSize();
+  if (!ana) {
+    if (QScreen* s = QGuiApplication::primaryScreen()) alan = s->availableGeometry().size();
+  }
+  const int solKay = kaydirmaYok ? 0 : Twip(200);
+  const int ustKay = kaydirmaYok ? 0 : Twip(400);
+  const int sol = alan.width() / 2 - cerceve->width() / 2 - solKay;
+  const int ust = alan.height() / 2 - cerceve->height() / 2 - ustKay;
+  cerceve->move(std::max(0, sol), std::max(0, ust));
+}
+
+void Bekle(int ms) {
+  if (gAnlik || ms <= 0) {
+    QCoreApplication::processEvents();
+    return;
+  }
+  QElapsedTimer t;
+  t.start();
+  while (t.elapsed() < ms) QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+}
+
+void BekleAnlik(bool anlik) { gAnlik = anlik; }
+
+void Kaydet(const QString& ad, Uretici uretici) { K().uretici[ad] = std::move(uretici); }
+
+bool KayitliMi(const QString& ad) { return K().uretici.contains(ad); }
+
+QWidget* Acik(const QString& ad) {
+  auto it = K().acik.find(ad);
+  return it != K().acik.end() ? it.value().data() : nullptr;
+}
+
+QWidget* Ac(const QString& ad) {
+  if (QWidget* w = Acik(ad)) {
+    QWidget* cerceve = w;
+    if (auto* alt = qobject_cast<QMdiSubWindow*>(w->parentWidget())) cerceve = alt;
+    cerceve->showNormal();
+    cerceve->raise();
+    cerceve->activateWindow();
+    w->setFocus();
+    return w;
+  }
+  auto it = K().uretici.find(ad);
+  if (it == K().uretici.end()) return nullptr;
+  QWidget* w = it.value()();
+  if (!w) return nullptr;
+  w->setObjectName(ad);
+  w->setAttribute(Qt::WA_DeleteOnClose);
+  K().acik[ad] = w;
+  if (K().yerlestir)
+    K().yerlestir(w);
+  else
+    w->show();
+  if (auto* f = qobject_cast<Form*>(w)) {
+    f->Yukle();
+    f->Form_Activate();
+  }
+  return w;
+}
+
+void KomutKaydet(const QString& ad, std::function<void()> komut) {
+  K().komut[ad] = std::move(komut);
+}
+
+bool KomutVar(const QString& ad) { return K().komut.contains(ad); }
+
+void KomutCalistir(const QString& ad) {
+  auto it = K().komut.find(ad);
+  if (it != K().komut.end()) it.value()();
+}
+
+void YerlestiriciKur(Yerlestirici y, std::function<QWidget*()> anaPencere) {
+  K().yerlestir = std::move(y);
+  K().ana = std::move(anaPencere);
+}
+
+QWidget* AnaPencere() { return K().ana ? K().ana() : nullptr; }
+
+}  // namespace ekran

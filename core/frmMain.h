@@ -1,0 +1,82 @@
+#pragma once
+// The main window: start-up, the whole menu, the background behind the child
+// screens, and the place where every child screen opens.
+
+#include <QHash>
+#include <QLabel>
+#include <QMainWindow>
+#include <QVector>
+
+#include "core/Form.h"
+
+class QAction;
+class QFrame;
+class QMdiArea;
+class QMenu;
+
+// The firm's name behind the child screens.
+class frmbackground : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit frmbackground(QWidget* ust);
+  void Form_Load();
+  QLabel* Label1;
+  QVector<QFrame*> Line1;
+
+ protected:
+  void resizeEvent(QResizeEvent* e) override;
+};
+
+// The about screen.
+class frmhakkinda : public ekran::Form {
+  Q_OBJECT
+
+ public:
+  frmhakkinda();
+  void Form_Load() override;
+  QLabel* lblBaslik;
+  QLabel* lblVersiyon;
+  class QPushButton* Command1;
+};
+
+class frmMain : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  frmMain();
+  ~frmMain() override;
+
+  // Start-up steps; false when the window had to be unloaded.
+  bool Form_Load();
+  void ArkaPlan();
+  // The title the window gets from the firm's name.
+  static QString Baslik(const QString& firmaAdi);
+
+  QMdiArea* mdi;
+  frmbackground* arka = nullptr;
+
+  QMenu *mnuDosya, *mnuIslem, *mnuRapor, *mnuAbout1;
+  QAction *mnuFirma, *mnuAraGuncel, *mnuAyarYedek, *mnuBakim, *mnuCikis;
+  QAction* mnuMusteri;
+  QAction *mnuOdunc, *mnuSozlesmeAll, *mnuHesap, *mnuTahsilat, *mnuSozNoDegis, *mnuKur;
+  QAction *mnuMusteriBilgi, *mnuCari, *mnuKesideci, *mnuGelir, *mnuMaliye;
+  QAction* mnuAyarlar;
+  QAction *mnuAbout, *mnuVersiyon, *mnuYTL, *mnuPulBedeli;
+
+  // Switches on the entries whose screen or command exists; the three that
+  // stay off never come on.
+  void MenuDurumu();
+
+ protected:
+  void resizeEvent(QResizeEvent* e) override;
+  void closeEvent(QCloseEvent* e) override;
+  void showEvent(QShowEvent* e) override;
+
+ private:
+  QAction* Ekle(QMenu* menu, const char* ad, const QString& baslik, const QString& hedef);
+  QAction* Ekle(QMenu* menu, const char* ad, const QString& baslik, std::function<void()> is);
+  void EkranYerlestir(QWidget* w);
+  QHash<QAction*, QString> hedef_;  // screen or command each entry opens
+  QVector<QAction*> kapali_;         // switched off for good
+};

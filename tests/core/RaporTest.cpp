@@ -1,0 +1,305 @@
+#include <gtest/gtest.h>
+
+#include <QDate>
+#include <QFile>
+#include <QLabel>
+#include <QPrintPreviewWidget>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include "core/Genel.h"
+#include "core/Rapor.h"
+#include "tests/support/Ortam.h"
+
+namespace {
+
+using rapor::Yazi;
+
+// --------------------------------------------------------------- formats
+
+TEST(RaporBicim, SayilarTurkceBicimde) {
+  Genel::BolgeTurkce();
+  struct Durum {
+    QVariant deger;
+    const char* bicim;
+    const char* beklenen;
+  };
+  const Durum durumlar[] = {
+      {1234.5, "#,##0.00", "1.234,50"},
+      {1234567.891, "###,###,###,###,##0.00", "1.234.567,89"},
+      {-1234.5, "#,##0.00", "-1.234,50"},
+      {-0.004, "#,##0.00", "0,00"},
+      // written the Turkish way round in some layouts
+      {1234.5, "#.##0,00", "1.234,50"},
+      {0.5, "#.##0,00", "0,50"},
+      // no zero before the decimal sign: the zero integer part is left out
+      {0.5, "###,###,###.00", ",50"},
+      {-0.5, "#,###.00", "-,50"},
+      {0.0, "#,###.00", ",00"},
+      {12.5, "#,###.00", "12,50"},
+      // halves away from zero, on the decimal value rather than the binary one
+      {2.675, "0.00", "2,68"},
+      {1.005, "#,##0.00", "1,01"},
+      {-2.5, "0", "-3"},
+      {1.5, "0.##", "1,5"},
+      {2.0, "0.##", "2"},
+      {qlonglong(1234567), "#,##0", "1.234.567"},
+      {1234.5, "0.00", "1234,50"},
+      {1234.5, "#,##0.00 TL", "1.234,50 TL"},
+      // SQL texts of numbers, and texts that are none
+      {QStringLiteral("1234.5"), "#,##0.00", "1.234,50"},
+      {QStringLiteral("ABC"), "#,##0.00", "ABC"},
+      {QVariant(), "#,##0.00", ""},
+  };
+  for (const auto& d : durumlar)
+    EXPECT_EQ(rapor::Bicimle(d.deger, QString::fromUtf8(d.bicim)), QString::fromUtf8(d.beklenen))
+        << d.deger.toString().toStdString() << " " << d.bicim;
+}
+
+TEST(RaporBicim, TarihlerVeBicimsizDegerler) {
+  Genel::BolgeTurkce();
+  const QString gun = QStringLiteral("dd.MM.yyyy");
+  EXPECT_EQ(rapor::Bicimle(QStringLiteral("2024-03-05"), gun), "05.03.2024");
+  EXPECT_EQ(rapor::Bicimle(QDate(2024, 3, 5), gun), "05.03.2024");
+  EXPECT_EQ(rapor::Bicimle(QStringLiteral("2024-03-05 14:30:00"), "dd.MM.yyyy hh:mm"),
+            "05.03.2024 14:30");
+  EXPECT_EQ(rapor::Bicimle(QStringLiteral("Ödendi"), gun), "Ödendi");
+
+  // Without a format: stored dates as the clerk reads them, numbers plainly.
+  EXPECT_EQ(rapor::Bicimle(QStringLiteral("2024-03-05"), QString()), "05.03.2024");
+  EXPECT_EQ(rapor::Bicimle(QDate(2024, 12, 1), QString()), "01.12.2024");
+  EXPECT_EQ(rapor::Bicimle(1234.5, QString()), "1234,5");
+  EXPECT_EQ(rapor::Bicimle(qlonglong(7), QString()), "7");
+  EXPECT_EQ(rapor::Bicimle(QStringLiteral("0012345"), QString()), "0012345");
+  EXPECT_EQ(rapor::Bicimle(QVariant(), QString()), "");
+}
+
+TEST(RaporBicim, BolgeAyiricilariniIzler) {
+  Genel::Bolge().ondalik = QLatin1Char('.');
+  Genel::Bolge().binlik = QLatin1Char(',');
+  EXPECT_EQ(rapor::Bicimle(1234.5, "#,##0.00"), "1,234.50");
+  EXPECT_EQ(rapor::Bicimle(0.5, "#,###.00"), ".50");
+  EXPECT_EQ(rapor::Bicimle(1234.5, QString()), "1234.5");
+  Genel::BolgeTurkce();
+}
+
+// --------------------------------------------------------------- reports
+
+// Text of one page of a PDF, or a null string when pdftotext is missing.
+QString PdfSayfasi(const QString& yol, int sayfa) {
+  const QString arac = QStandardPaths::findExecutable(QStringLiteral("pdftotext"));
+  if (arac.isEmpty()) return QString();
+  QProcess p;
+  p.start(arac, {QStringLiteral("-layout"), QStringLiteral("-enc"), QStringLiteral("UTF-8"),
+                 QStringLiteral("-f"), QString::number(sayfa), QStringLiteral("-l"),
+                 QString::number(sayfa), yol, QStringLiteral("-")});
+  EXPECT_TRUE(p.waitForFinished(30000));
+  EXPECT_EQ(p.exitCode(), 0) << p.readAllStandardError().toStdString();
+  return QString::fromUtf8(p.readAllStandardOutput());
+}
+
+int PdfSayfaSayisi(const QString& yol) {
+  QFile f(yol);
+  if (!f.open(QIODevice::ReadOnly)) return -1;
+  static const QRegularExpression sayfa(QStringLiteral("/Type\\s*/Page[^s]"));
+  return int(QString::fromLatin1(f.readAll()).count(sayfa));
+}
+
+#define PDF_METNI(degisken, yol, sayfa)            \
+  const QString degisken = PdfSayfasi(yol, sayfa); \
+  if (degisken.isNull()) GTEST_SKIP() << "pdftotext is not installed"
+
+class RaporTest : public test::Ortam {
+ protected:
+  // Rows 1..n: a drawer with Turkish letters, an amount and a maturity date.
+  db::Kayitlar Satirlar(int n) {
+    return Genel::Baglanti.Sorgu(
+        QStringLiteral(
+            "WITH RECURSIVE s(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM s WHERE n < 100) "
+            "SELECT n AS No, 'Şükrü Öğün ' || printf('%02d', n) AS Kesideci, n * 1000.25 AS Tutar, "
+            "date('2024-01-31', '+' || n || ' day') AS Vadesi FROM s WHERE n <= ?"),
+        {n});
+  }
+
+  // A page of 100 x 120 mm with 10 mm margins leaves 100 mm. Page header 20
+  // and page footer 10 leave 70 for the body: 7 detail rows of 10 mm, only 6
+  // on the first page, where the report header takes 10. The report footer
+  // takes 15.
+  rapor::Rapor Liste(int n) {
+    rapor::Rapor r;
+    r.baslik = QStringLiteral("Cek Raporu");
+    r.sayfaDuzeni =
+        QPageLayout(QPageSize(QSizeF(100, 120), QPageSize::Millimeter), QPageLayout::Portrait,
+                    QMarginsF(10, 10, 10, 10), QPageLayout::Millimeter);
+    r.kayitlar = Satirlar(n);
+    r.raporBasligi.yukseklik = 10;
+    r.raporBasligi.Ekle(Yazi::Sabit("Çek Bordro Raporu", {0, 0, 80, 8}).Kalin().Punto(12));
+    r.sayfaBasligi.yukseklik = 20;
+    r.sayfaBasligi.Ekle(Yazi::Sabit("Keşideci", {0, 0, 35, 5}))
+        .Ekle(Yazi::Sabit("Vade", {35, 0, 20, 5}))
+        .Ekle(Yazi::Sabit("Tutar", {55, 0, 25, 5}).Sag())
+        .Ekle(Yazi::Sabit("Devreden:", {0, 8, 35, 5}))
+        .Ekle(Yazi::Toplam("Tutar", {45, 8, 35, 5}).Bicim("#,##0.00").Sag())
+        .Ekle(rapor::Cizgi::Yatay(0, 18, 80));
+    r.detay.yukseklik = 10;
+    r.detay.Ekle(Yazi::Alan("Kesideci", {0, 0, 35, 5}))
+        .Ekle(Yazi::Alan("Vadesi", {35, 0, 20, 5}))
+        .Ekle(Yazi::Alan("Tutar", {55, 0, 25, 5}).Bicim("###,###,###,###,##0.00").Sag());
+    r.raporAltligi.yukseklik = 15;
+    r.raporAltligi.Ekle(Yazi::Adet("", {0, 2, 10, 5}).Sag())
+        .Ekle(Yazi::Sabit("Adet  Toplam:", {12, 2, 30, 5}))
+        .Ekle(Yazi::Toplam("Tutar", {45, 2, 35, 5}).Bicim("#,##0.00").Sag());
+    r.sayfaAltligi.yukseklik = 10;
+    r.sayfaAltligi.Ekle(Yazi::Toplam("Tutar", {0, 2, 35, 5}).Bicim("#,##0.00"))
+        .Ekle(Yazi::SayfaNumarasi({45, 2, 35, 5}).Sag());
+    return r;
+  }
+
+  QString Yol(const QString& ad) const { return veriDizini() + QLatin1Char('/') + ad; }
+};
+
+TEST_F(RaporTest, SayfalarDolunca) {
+  // rows -> pages: the first page holds 6 rows, the others 7, and the report
+  // footer needs 15 mm after the last row.
+  const std::pair<int, int> durumlar[] = {{0, 1},  {4, 1},  {5, 2},  {6, 2},
+                                          {13, 3}, {17, 3}, {18, 3}, {19, 4}};
+  for (auto [satir, sayfa] : durumlar) EXPECT_EQ(rapor::SayfaSayisi(Liste(satir)), sayfa) << satir;
+
+  // A detail band taller than the page still gets a page per row.
+  rapor::Rapor r = Liste(3);
+  r.detay.yukseklik = 150;
+  EXPECT_EQ(rapor::SayfaSayisi(r), 4);
+}
+
+TEST_F(RaporTest, PdfSayfalariVeMetni) {
+  const QString yol = Yol("liste.pdf");
+  ASSERT_TRUE(rapor::PdfYaz(Liste(17), yol));
+  EXPECT_EQ(PdfSayfaSayisi(yol), 3);
+
+  PDF_METNI(ilk, yol, 1);
+  PDF_METNI(orta, yol, 2);
+  PDF_METNI(son, yol, 3);
+
+  // Report header on the first page only, page header on every page.
+  EXPECT_TRUE(ilk.contains("Çek Bordro Raporu")) << ilk.toStdString();
+  EXPECT_FALSE(orta.contains("Çek Bordro Raporu"));
+  for (const QString& s : {ilk, orta, son}) EXPECT_TRUE(s.contains("Keşideci")) << s.toStdString();
+
+  // Rows 1-6, 7-13, 14-17, with dates and amounts formatted.
+  EXPECT_TRUE(ilk.contains("Şükrü Öğün 01"));
+  EXPECT_TRUE(ilk.contains("01.02.2024"));
+  EXPECT_TRUE(ilk.contains("1.000,25"));
+  EXPECT_TRUE(ilk.contains("Şükrü Öğün 06"));
+  EXPECT_FALSE(ilk.contains("Şükrü Öğün 07"));
+  EXPECT_TRUE(orta.contains("Şükrü Öğün 07"));
+  EXPECT_TRUE(orta.contains("Şükrü Öğün 13")) << orta.toStdString();
+  EXPECT_FALSE(orta.contains("Şükrü Öğün 14"));
+  EXPECT_TRUE(son.contains("Şükrü Öğün 14"));
+  EXPECT_TRUE(son.contains("Şükrü Öğün 17"));
+
+  EXPECT_TRUE(ilk.contains("Sayfa: 1/3"));
+  EXPECT_TRUE(orta.contains("Sayfa: 2/3"));
+  EXPECT_TRUE(son.contains("Sayfa: 3/3"));
+
+  // The page footer sums up to the end of its page, the page header carries
+  // the rows of earlier pages: 1..6 make 21 x 1000,25, 1..13 make 91 x.
+  EXPECT_TRUE(ilk.contains("21.005,25"));
+  EXPECT_TRUE(orta.contains("21.005,25"));
+  EXPECT_TRUE(orta.contains("91.022,75"));
+  EXPECT_TRUE(son.contains("91.022,75"));
+
+  // Report footer after the last row only: 17 rows, 153 x 1000,25.
+  const QRegularExpression altlik(QStringLiteral("17\\s+Adet\\s+Toplam:\\s+153\\.038,25"));
+  EXPECT_TRUE(son.contains(altlik)) << son.toStdString();
+  EXPECT_FALSE(orta.contains("Toplam:"));
+}
+
+TEST_F(RaporTest, AltlikToplamlariYuvarlanmamisDegerlerden) {
+  rapor::Rapor r;
+  // Three interests of 0,125 each show as 0,13, but add up to 0,375 -> 0,38.
+  r.kayitlar = Genel::Baglanti.Sorgu(
+      QStringLiteral("SELECT 0.125 AS Faiz, 30 AS Gunu, 10.0 AS Masraf "
+                     "UNION ALL SELECT 0.125, NULL, 30.0 UNION ALL SELECT 0.125, 45, 20.0"));
+  r.detay.Ekle(Yazi::Alan("Faiz", {0, 0, 30, 5}).Bicim("#,##0.00").Sag());
+  r.detay.Ekle(Yazi::Toplam("Faiz", {40, 0, 40, 5}).Bicim("0.000").Sag());
+  r.raporAltligi.Ekle(Yazi::Sabit("Faiz:", {0, 0, 30, 5}))
+      .Ekle(Yazi::Toplam("Faiz", {40, 0, 40, 5}).Bicim("#,###.00").Sag())
+      .Ekle(Yazi::Sabit("Satır:", {0, 6, 30, 5}))
+      .Ekle(Yazi::Adet("", {40, 6, 40, 5}).Sag())
+      .Ekle(Yazi::Sabit("Gün adedi:", {0, 12, 30, 5}))
+      .Ekle(Yazi::Adet("Gunu", {40, 12, 40, 5}).Sag())
+      .Ekle(Yazi::Sabit("Masraf:", {0, 18, 30, 5}))
+      .Ekle(Yazi::EnBuyuk("Masraf", {40, 18, 40, 5}).Bicim("#,##0.00").Sag())
+      .Ekle(Yazi::Sabit("En az:", {0, 24, 30, 5}))
+      .Ekle(Yazi::EnKucuk("Masraf", {40, 24, 40, 5}).Bicim("#,##0.00").Sag());
+  const QString yol = Yol("toplam.pdf");
+  ASSERT_TRUE(rapor::PdfYaz(r, yol));
+  EXPECT_EQ(PdfSayfaSayisi(yol), 1);
+
+  PDF_METNI(metin, yol, 1);
+  auto satir = [&](const QString& desen) {
+    return metin.contains(QRegularExpression(desen)) ? ::testing::AssertionSuccess()
+                                                     : ::testing::AssertionFailure()
+                                                           << desen.toStdString() << " not in\n"
+                                                           << metin.toStdString();
+  };
+  EXPECT_EQ(metin.count("0,13"), 3);
+  // The running sum in the detail band.
+  EXPECT_TRUE(satir("0,13\\s+0,125\\n"));
+  EXPECT_TRUE(satir("0,13\\s+0,250\\n"));
+  EXPECT_TRUE(satir("0,13\\s+0,375\\n"));
+  EXPECT_TRUE(satir("Faiz:\\s+,38\\n"));
+  EXPECT_TRUE(satir("Satır:\\s+3\\n"));
+  EXPECT_TRUE(satir("Gün adedi:\\s+2\\n"));
+  EXPECT_TRUE(satir("Masraf:\\s+30,00\\n"));
+  EXPECT_TRUE(satir("En az:\\s+10,00\\n"));
+}
+
+TEST_F(RaporTest, BosRaporTekSayfa) {
+  rapor::Rapor r = Liste(0);
+  r.raporBasligi.Ekle(Yazi::Alan("Kesideci", {0, 0, 80, 8}));  // no row to read
+  const QString yol = Yol("bos.pdf");
+  ASSERT_TRUE(rapor::PdfYaz(r, yol));
+  EXPECT_EQ(PdfSayfaSayisi(yol), 1);
+  PDF_METNI(metin, yol, 1);
+  EXPECT_TRUE(metin.contains(QRegularExpression("0\\s+Adet\\s+Toplam:\\s+0,00")))
+      << metin.toStdString();
+  EXPECT_TRUE(metin.contains("Sayfa: 1/1"));
+}
+
+TEST_F(RaporTest, PencereOnizlerVePdfKaydeder) {
+  auto* p = rapor::Goster(Liste(17));
+  test::Isle();
+  EXPECT_TRUE(p->isVisible());
+  EXPECT_EQ(p->windowTitle(), "Cek Raporu");
+  EXPECT_EQ(p->onizleme->pageCount(), 3);
+
+  p->cmdSonraki->trigger();
+  test::Isle();
+  EXPECT_EQ(p->onizleme->currentPage(), 2);
+  EXPECT_EQ(p->lblSayfa->text(), "Sayfa: 2/3");
+
+  const qreal once = p->onizleme->zoomFactor();
+  p->cmdYakinlastir->trigger();
+  EXPECT_GT(p->onizleme->zoomFactor(), once);
+
+  const QString yol = Yol("pencere.pdf");
+  EXPECT_TRUE(p->PdfKaydet(yol));
+  EXPECT_EQ(PdfSayfaSayisi(yol), 3);
+  EXPECT_TRUE(Mesajlar().isEmpty());
+
+  // A folder that doesn't exist: the clerk is told, nothing is written.
+  const QString yanlis = Yol("yok/rapor.pdf");
+  EXPECT_FALSE(p->PdfKaydet(yanlis));
+  ASSERT_EQ(Mesajlar().size(), 1);
+  EXPECT_TRUE(Mesajlar()[0].metin.startsWith("PDF dosyası yazılamadı:"));
+  EXPECT_EQ(Mesajlar()[0].tur, mesaj::Tur::Kritik);
+  EXPECT_FALSE(QFile::exists(yanlis));
+
+  p->cmdKapat->trigger();  // deletes itself
+  test::Isle();
+}
+
+}  // namespace
