@@ -218,7 +218,15 @@ int Twip(int twip) { return (twip + 7) / 15; }  // 96 dots to the inch
 void FormOrtala(QWidget* ekran, int yukseklik, int genislik, bool kaydirmaYok) {
   QWidget* cerceve = ekran;
   if (auto* alt = qobject_cast<QMdiSubWindow*>(ekran->parentWidget())) cerceve = alt;
-  cerceve->resize(Twip(genislik), Twip(yukseklik));
+  // The sizes were made for another font; a layout never gets less room than
+  // it needs.
+  QSize boy(Twip(genislik), Twip(yukseklik));
+  boy = boy.expandedTo(cerceve->minimumSizeHint());
+  if (cerceve != ekran) {
+    const QSize cerceveFarki = cerceve->size() - ekran->size();
+    boy = boy.expandedTo(ekran->minimumSizeHint() + cerceveFarki.expandedTo(QSize(0, 0)));
+  }
+  cerceve->resize(boy);
   QWidget* ana = cerceve->parentWidget();
   QSize alan = ana ? ana->size() : QSize();
   if (!ana) {

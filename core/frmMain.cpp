@@ -84,9 +84,18 @@ void frmhakkinda::Form_Load() { ekran::FormOrtala(this, 2600, 4800); }
 
 frmMain::frmMain() {
   setObjectName(QStringLiteral("frmMain"));
-  mdi = new QMdiArea(this);
-  mdi->setBackground(QColor(0xe8, 0xee, 0xf4));
-  setCentralWidget(mdi);
+  // The background stands behind a see-through work area, so that child
+  // screens always cover it.
+  auto* merkez = new QWidget(this);
+  merkez->setAutoFillBackground(true);
+  QPalette renk = merkez->palette();
+  renk.setColor(QPalette::Window, QColor(0xe8, 0xee, 0xf4));
+  merkez->setPalette(renk);
+  setCentralWidget(merkez);
+  mdi = new QMdiArea(merkez);
+  mdi->setBackground(Qt::NoBrush);
+  mdi->viewport()->setAutoFillBackground(false);
+  merkez->installEventFilter(this);
   connect(mdi, &QMdiArea::subWindowActivated, this, [](QMdiSubWindow* alt) {
     if (!alt) return;
     auto* f = qobject_cast<ekran::Form*>(alt->widget());
@@ -260,13 +269,18 @@ bool frmMain::Form_Load() {
 
 void frmMain::ArkaPlan() {
   if (!arka) {
-    arka = new frmbackground(mdi->viewport());
+    arka = new frmbackground(centralWidget());
     arka->Form_Load();
   }
   arka->setGeometry(0, 0, std::max(0, width() - ekran::Twip(300)),
                     std::max(0, height() - ekran::Twip(1100)));
   arka->lower();
   arka->show();
+}
+
+bool frmMain::eventFilter(QObject* o, QEvent* e) {
+  if (o == centralWidget() && e->type() == QEvent::Resize) mdi->setGeometry(centralWidget()->rect());
+  return QMainWindow::eventFilter(o, e);
 }
 
 void frmMain::resizeEvent(QResizeEvent* e) {

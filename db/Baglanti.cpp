@@ -2,8 +2,12 @@
 
 #include <sqlite3.h>
 
+#include <QDate>
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+#include <cctype>
+#include <limits>
 
 #include "db/Kayitlar.h"
 #include "db/Sema.h"
@@ -14,35 +18,38 @@ void FonksiyonlariKaydet(sqlite3* db);  // Fonksiyonlar.cpp
 
 namespace {
 
-// A prepared statement that finalizes itself.
+QString MotorMetni(sqlite3* db) { return QString::fromUtf8(sqlite3_errmsg(db)); }
+
+// One prepared statement that finalizes itself. Prepares the first statement
+// of [bas, son); kalan() tells where the next one begins. A text holding only
+// blanks or comments gives no statement (bos()).
 class Komut {
  public:
-  Komut(sqlite3* db, const QString& sql) : db_(db) {
-    const QByteArray metin = sql.toUtf8();
-    if (sqlite3_prepare_v2(db, metin.constData(), int(metin.size()), &st_, nullptr) != SQLITE_OK)
-      throw Hata(QString::fromUtf8(sqlite3_errmsg(db)));
+  Komut(sqlite3* db, const char* bas, const char* son) : db_(db), kalan_(son) {
+    if (sqlite3_prepare_v2(db, bas, int(son - bas), &st_, &kalan_) != SQLITE_OK)
+      throw Hata(MotorMetni(db));
   }
   ~Komut() { sqlite3_finalize(st_); }
   Komut(const Komut&) = delete;
   Komut& operator=(const Komut&) = delete;
 
-  void Bagla(const QVariantList& deger) {
-    const int n = sqlite3_bind_parameter_count(st_);
-    if (n != deger.size())
-      throw Hata(QStringLiteral("Parametre sayısı uyuşmuyor (%1 beklenen, %2 verilen)")
-                     .arg(n)
-                     .arg(deger.size()));
-    for (int i = 0; i < n; ++i) BaglaBir(i + 1, deger[i]);
+  bool bos() const { return st_ == nullptr; }
+  const char* kalan() const { return kalan_; }
+  sqlite3_stmt* st() const { return st_; }
+  int ParametreSayisi() const { return sqlite3_bind_parameter_count(st_); }
+
+  // Binds deger[ilk], deger[ilk + 1], ... to the parameters in order.
+  void Bagla(const QVariantList& deger, qsizetype ilk) {
+    const int n = ParametreSayisi();
+    for (int i = 0; i < n; ++i) BaglaBir(i + 1, deger[ilk + i]);
   }
 
   bool Adim() {
     const int rc = sqlite3_step(st_);
     if (rc == SQLITE_ROW) return true;
     if (rc == SQLITE_DONE) return false;
-    throw Hata(QString::fromUtf8(sqlite3_errmsg(db_)));
+    throw Hata(MotorMetni(db_));
   }
-
-  sqlite3_stmt* st() const { return st_; }
 
  private:
   void BaglaBir(int i, const QVariant& v) {
@@ -66,17 +73,22 @@ class Komut {
         case QMetaType::Float:
           rc = sqlite3_bind_double(st_, i, v.toDouble());
           break;
-        case QMetaType::QDate:
-          rc = BaglaMetin(i, v.toDate().toString(Qt::ISODate));
+        case QMetaType::QDate: {
+          const QDate d = v.toDate();
+          rc = d.isValid() ? BaglaMetin(i, d.toString(Qt::ISODate)) : sqlite3_bind_null(st_, i);
           break;
-        case QMetaType::QDateTime:
-          rc = BaglaMetin(i, v.toDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
+        }
+        case QMetaType::QDateTime: {
+          const QDateTime t = v.toDateTime();
+          rc = t.isValid() ? BaglaMetin(i, t.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")))
+                           : sqlite3_bind_null(st_, i);
           break;
+        }
         default:
           rc = BaglaMetin(i, v.toString());
       }
     }
-    if (rc != SQLITE_OK) throw Hata(QString::fromUtf8(sqlite3_errmsg(db_)));
+    if (rc != SQLITE_OK) throw Hata(MotorMetni(db_));
   }
   int BaglaMetin(int i, const QString& s) {
     const QByteArray b = s.toUtf8();
@@ -85,6 +97,48 @@ class Komut {
 
   sqlite3* db_;
   sqlite3_stmt* st_ = nullptr;
+  const char* kalan_;
+};
+
+// True when only blanks and comments are left of a statement text.
+bool YalnizBosluk(const char* p, const char* son) {
+  while (p < son) {
+    if (std::isspace(static_cast<unsigned char>(*p))) {
+      ++p;
+    } else if (son - p >= 2 && p[0] == '-' && p[1] == '-') {
+      while (p < son && *p != '\n') ++p;
+    } else if (son - p >= 2 && p[0] == '/' && p[1] == '*') {
+      p += 2;
+      while (son - p >= 2 && !(p[0] == '*' && p[1] == '/')) ++p;
+      p = son - p >= 2 ? p + 2 : son;
+    } else {
+      return false;
+    }
+  }
+  return true;
+}
+
+Hata ParametreHatasi(qsizetype beklenen, qsizetype verilen) {
+  return Hata(QStringLiteral("Parametre sayısı uyuşmuyor (%1 beklenen, %2 verilen)")
+                  .arg(beklenen)
+                  .arg(verilen));
+}
+
+// The first statement of a query, with its values bound.
+class Sorgusu {
+ public:
+  Sorgusu(sqlite3* db, const QString& sql, const QVariantList& deger)
+      : metin_(sql.toUtf8()), k_(db, metin_.constData(), metin_.constData() + metin_.size()) {
+    if (k_.bos()) throw Hata(QStringLiteral("Boş sorgu"));
+    if (k_.ParametreSayisi() != deger.size())
+      throw ParametreHatasi(k_.ParametreSayisi(), deger.size());
+    k_.Bagla(deger, 0);
+  }
+  Komut& k() { return k_; }
+
+ private:
+  QByteArray metin_;
+  Komut k_;
 };
 
 QVariant SutunDegeri(sqlite3_stmt* st, int i) {
@@ -106,34 +160,51 @@ QVariant SutunDegeri(sqlite3_stmt* st, int i) {
 
 Baglanti::~Baglanti() { Kapat(); }
 
+void Baglanti::AcikOlmali() const {
+  if (!db_) throw Hata(QStringLiteral("Veri tabanı açık değil"));
+}
+
 void Baglanti::AcHam(const QString& yol, int bayrak) {
   Kapat();
   sqlite3* db = nullptr;
   const QByteArray ad = QFile::encodeName(yol);
-  const int rc = sqlite3_open_v2(ad.constData(), &db, bayrak, nullptr);
+  // A connection is used by one thread at a time: no locking on every call.
+  const int rc = sqlite3_open_v2(ad.constData(), &db, bayrak | SQLITE_OPEN_NOMUTEX, nullptr);
   if (rc != SQLITE_OK) {
-    const QString metin = db ? QString::fromUtf8(sqlite3_errmsg(db))
-                             : QString::fromUtf8(sqlite3_errstr(rc));
+    const QString metin = db ? MotorMetni(db) : QString::fromUtf8(sqlite3_errstr(rc));
     sqlite3_close(db);
     throw Hata(metin);
   }
-  sqlite3_busy_timeout(db, kBekleme);
+  sqlite3_busy_timeout(db, bekleme_);
   sqlite3_extended_result_codes(db, 1);
-  FonksiyonlariKaydet(db);
+  try {
+    FonksiyonlariKaydet(db);
+    // Room for the large sorts of the contract lists (all contracts by date,
+    // the reports) in memory rather than in temporary files.
+    if (sqlite3_exec(db, "PRAGMA cache_size = -65536; PRAGMA temp_store = MEMORY", nullptr, nullptr,
+                     nullptr) != SQLITE_OK)
+      throw Hata(MotorMetni(db));
+  } catch (...) {
+    sqlite3_close(db);
+    throw;
+  }
   db_ = db;
   yol_ = yol;
 }
 
 void Baglanti::Ac(const QString& yol, Kip kip) {
-  if (!QFileInfo(yol).isFile()) throw Hata(QStringLiteral("Veri tabanı dosyası yok: %1").arg(yol));
   kip_ = kip;
+  // Without SQLITE_OPEN_CREATE a missing file is the engine's failure and
+  // nothing is created.
   AcHam(yol, kip == Kip::YazOku ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY);
   try {
-    // Reading the schema proves that the file is a database at all.
+    // Opening has read nothing yet: reading the schema proves that the file
+    // is a database at all.
     Deger(QStringLiteral("SELECT count(*) FROM sqlite_master"));
+    // The engine falls back to reading a file it may not write; a program
+    // that means to write has to know now, not at its first save.
     if (kip == Kip::YazOku && sqlite3_db_readonly(db_, "main") == 1)
-      throw Hata(QStringLiteral("Veri tabanı salt okunur açıldı"));
-    Calistir(QStringLiteral("PRAGMA foreign_keys = OFF"));
+      throw Hata(QString::fromUtf8(sqlite3_errstr(SQLITE_READONLY)));
   } catch (...) {
     Kapat();
     throw;
@@ -143,15 +214,18 @@ void Baglanti::Ac(const QString& yol, Kip kip) {
 void Baglanti::Olustur(const QString& yol) {
   if (QFileInfo::exists(yol)) throw Hata(QStringLiteral("Dosya zaten var: %1").arg(yol));
   kip_ = Kip::YazOku;
-  AcHam(yol, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_EXCLUSIVE);
+  AcHam(yol, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+  // Customers' identity and tax numbers are personal data: owner only, before
+  // anything is written (the journal takes the file's permissions).
+  QFile::setPermissions(yol, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
   try {
     SemaOlustur(*this);
   } catch (...) {
     Kapat();
     QFile::remove(yol);
+    QFile::remove(yol + QStringLiteral("-journal"));
     throw;
   }
-  QFile::setPermissions(yol, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
 }
 
 void Baglanti::Kapat() {
@@ -166,22 +240,38 @@ void Baglanti::YenidenAc() {
   Ac(yol_, kip_);
 }
 
+void Baglanti::BeklemeAyarla(int ms) {
+  bekleme_ = ms;
+  if (db_) sqlite3_busy_timeout(db_, ms);
+}
+
+bool Baglanti::IslemIcinde() const { return db_ && sqlite3_get_autocommit(db_) == 0; }
+
 int Baglanti::Calistir(const QString& sql, const QVariantList& deger) {
-  if (!db_) throw Hata(QStringLiteral("Veri tabanı açık değil"));
-  if (deger.isEmpty() && sql.count(QLatin1Char(';')) > 1) {
-    char* hata = nullptr;
-    if (sqlite3_exec(db_, sql.toUtf8().constData(), nullptr, nullptr, &hata) != SQLITE_OK) {
-      const QString metin = QString::fromUtf8(hata ? hata : "");
-      sqlite3_free(hata);
-      throw Hata(metin);
+  AcikOlmali();
+  const QByteArray metin = sql.toUtf8();
+  const char* p = metin.constData();
+  const char* const son = p + metin.size();
+  const sqlite3_int64 once = sqlite3_total_changes64(db_);
+  qsizetype kullanilan = 0;
+  while (p < son) {
+    Komut k(db_, p, son);
+    p = k.kalan();
+    if (k.bos()) continue;
+    const int n = k.ParametreSayisi();
+    // Every value must find its parameter; the check runs before the last
+    // statement does, so that a single statement never runs half bound.
+    const bool sonuncu = YalnizBosluk(p, son);
+    if (kullanilan + n > deger.size() || (sonuncu && kullanilan + n != deger.size()))
+      throw ParametreHatasi(kullanilan + n, deger.size());
+    k.Bagla(deger, kullanilan);
+    kullanilan += n;
+    while (k.Adim()) {
     }
-    return sqlite3_changes(db_);
   }
-  Komut k(db_, sql);
-  k.Bagla(deger);
-  while (k.Adim()) {
-  }
-  return sqlite3_changes(db_);
+  if (kullanilan != deger.size()) throw ParametreHatasi(kullanilan, deger.size());
+  const sqlite3_int64 fark = sqlite3_total_changes64(db_) - once;
+  return fark > std::numeric_limits<int>::max() ? std::numeric_limits<int>::max() : int(fark);
 }
 
 Kayitlar Baglanti::Sorgu(const QString& sql, const QVariantList& deger) {
@@ -191,57 +281,98 @@ Kayitlar Baglanti::Sorgu(const QString& sql, const QVariantList& deger) {
 }
 
 QVariant Baglanti::Deger(const QString& sql, const QVariantList& deger) {
-  if (!db_) throw Hata(QStringLiteral("Veri tabanı açık değil"));
-  Komut k(db_, sql);
-  k.Bagla(deger);
-  if (!k.Adim()) return QVariant();
-  return SutunDegeri(k.st(), 0);
+  AcikOlmali();
+  Sorgusu s(db_, sql, deger);
+  if (!s.k().Adim()) return QVariant();
+  return SutunDegeri(s.k().st(), 0);
 }
 
 qint64 Baglanti::SonEklenenNo() const { return db_ ? sqlite3_last_insert_rowid(db_) : 0; }
 
-QString Baglanti::HataMetni() const {
-  return db_ ? QString::fromUtf8(sqlite3_errmsg(db_)) : QString();
-}
+QString Baglanti::HataMetni() const { return db_ ? MotorMetni(db_) : QString(); }
 
 // The record set's loader lives here so that only this file steps statements.
+// Values go straight from the engine into the set's cells; texts are copied
+// as the engine's UTF-8 into one buffer.
 void Kayitlar::Doldur(Baglanti* b, const QString& sql, const QVariantList& deger) {
-  if (!b || !b->ham()) throw Hata(QStringLiteral("Veri tabanı açık değil"));
-  Komut k(b->ham(), sql);
-  k.Bagla(deger);
-  const int n = sqlite3_column_count(k.st());
+  if (!b || !b->Acik()) throw Hata(QStringLiteral("Veri tabanı açık değil"));
+  Sorgusu s(b->ham(), sql, deger);
+  sqlite3_stmt* st = s.k().st();
+  const int n = sqlite3_column_count(st);
   QStringList alanlar;
   alanlar.reserve(n);
-  for (int i = 0; i < n; ++i) alanlar << QString::fromUtf8(sqlite3_column_name(k.st(), i));
-  QVector<QVector<QVariant>> satirlar;
-  while (k.Adim()) {
-    QVector<QVariant> satir(n);
-    for (int i = 0; i < n; ++i) satir[i] = SutunDegeri(k.st(), i);
-    satirlar.push_back(std::move(satir));
+  for (int i = 0; i < n; ++i) alanlar << QString::fromUtf8(sqlite3_column_name(st, i));
+
+  std::vector<Hucre> hucreler;
+  QByteArray metinler;
+  // A Requery (after every save on the contract screen) knows the size to
+  // expect.
+  if (kaynak_ == b && sql_ == sql) {
+    hucreler.reserve(hucreler_.size() + std::size_t(n) * 16);
+    metinler.reserve(metinler_.size() + 1024);
+  }
+  int satirlar = 0;
+  while (s.k().Adim()) {
+    for (int i = 0; i < n; ++i) {
+      Hucre h;
+      switch (sqlite3_column_type(st, i)) {
+        case SQLITE_NULL:
+          h.tur = Hucre::Bos;
+          h.tam = 0;
+          break;
+        case SQLITE_INTEGER:
+          h.tur = Hucre::Tam;
+          h.tam = sqlite3_column_int64(st, i);
+          break;
+        case SQLITE_FLOAT:
+          h.tur = Hucre::Ondalik;
+          h.ondalik = sqlite3_column_double(st, i);
+          break;
+        default: {
+          const auto* p = reinterpret_cast<const char*>(sqlite3_column_text(st, i));
+          const int boy = sqlite3_column_bytes(st, i);
+          if (metinler.size() + boy > qsizetype(std::numeric_limits<std::uint32_t>::max()))
+            throw Hata(QStringLiteral("Sorgunun sonucu bellek için fazla büyük"));
+          h.tur = Hucre::Yazi;
+          h.yazi = {std::uint32_t(metinler.size()), std::uint32_t(boy)};
+          metinler.append(p, boy);
+        }
+      }
+      hucreler.push_back(h);
+    }
+    ++satirlar;
   }
   alanlar_ = std::move(alanlar);
-  satirlar_ = std::move(satirlar);
-  kimlik_.resize(satirlar_.size());
-  for (int i = 0; i < kimlik_.size(); ++i) kimlik_[i] = i;
+  hucreler_ = std::move(hucreler);
+  metinler_ = std::move(metinler);
+  satirSayisi_ = satirlar;
+  sira_.clear();
+  yer_.clear();
   konum_ = 0;
   kaynak_ = b;
   sql_ = sql;
   param_ = deger;
 }
 
-Islem::Islem(Baglanti& b) : b_(b) { b_.Calistir(QStringLiteral("BEGIN IMMEDIATE")); }
+Islem::Islem(Baglanti& b) : b_(b) {
+  // IMMEDIATE takes the write lock at once (waiting for it like any write),
+  // so that a transaction never fails half way for want of it.
+  ic_ = b_.IslemIcinde();
+  b_.Calistir(ic_ ? QStringLiteral("SAVEPOINT islem") : QStringLiteral("BEGIN IMMEDIATE"));
+}
 
 Islem::~Islem() {
-  if (!bitti_) {
-    try {
-      b_.Calistir(QStringLiteral("ROLLBACK"));
-    } catch (...) {
-    }
+  if (bitti_) return;
+  try {
+    b_.Calistir(ic_ ? QStringLiteral("ROLLBACK TO islem; RELEASE islem")
+                    : QStringLiteral("ROLLBACK"));
+  } catch (...) {
+    // The engine may have rolled back already (a full disk, for one).
   }
 }
 
 void Islem::Onayla() {
-  b_.Calistir(QStringLiteral("COMMIT"));
+  b_.Calistir(ic_ ? QStringLiteral("RELEASE islem") : QStringLiteral("COMMIT"));
   bitti_ = true;
 }
 

@@ -24,7 +24,8 @@ class Hata : public std::runtime_error {
   QString metin_;
 };
 
-// Null as it is bound and read back: an invalid QVariant.
+// Null as it is bound and read back: an invalid QVariant. An invalid QDate or
+// QDateTime is bound as Null too; an empty QString is the empty text.
 inline QVariant Null() { return QVariant(); }
 inline bool NullMu(const QVariant& v) { return !v.isValid() || v.isNull(); }
 
@@ -37,8 +38,9 @@ class Baglanti {
   Baglanti(const Baglanti&) = delete;
   Baglanti& operator=(const Baglanti&) = delete;
 
-  // Opens an existing file. Throws Hata when the file is missing or is no
-  // usable database; it never creates or changes the file.
+  // Opens an existing file. Throws Hata with the engine's text when the file
+  // is missing, is no database, or cannot be written in YazOku; it never
+  // creates or changes the file.
   void Ac(const QString& yol, Kip kip = Kip::YazOku);
   // Creates a new database with the full schema and the reference data.
   // Throws when the file already exists.
@@ -49,8 +51,10 @@ class Baglanti {
   bool Acik() const { return db_ != nullptr; }
   const QString& Yol() const { return yol_; }
 
-  // Runs one statement (or several without parameters); returns the number
-  // of rows changed.
+  // Runs one statement or several separated by ";". The values are bound to
+  // the parameters in the order they stand; returns the number of rows the
+  // statements changed. A failing statement stops the run; those before it
+  // stay done unless an Islem surrounds them.
   int Calistir(const QString& sql, const QVariantList& deger = {});
   // Runs a query and loads its rows into a client-side record set.
   Kayitlar Sorgu(const QString& sql, const QVariantList& deger = {});
@@ -61,20 +65,30 @@ class Baglanti {
   // The engine's text of the last failure.
   QString HataMetni() const;
 
-  // Milliseconds a statement waits for another program's lock.
+  // True while a transaction (Islem) is open on the connection.
+  bool IslemIcinde() const;
+
+  // Milliseconds a statement waits for another program's lock; kBekleme
+  // unless changed. The setting holds for later opens as well.
   static constexpr int kBekleme = 5000;
+  void BeklemeAyarla(int ms);
+  int Bekleme() const { return bekleme_; }
 
   sqlite3* ham() const { return db_; }
 
  private:
   void AcHam(const QString& yol, int bayrak);
+  void AcikOlmali() const;
   sqlite3* db_ = nullptr;
   QString yol_;
   Kip kip_ = Kip::YazOku;
+  int bekleme_ = kBekleme;
 };
 
 // A transaction: commits on Onayla(), rolls back when it goes out of scope
-// without it. Statements that belong together run inside one.
+// without it. Statements that belong together run inside one. Inside another
+// Islem it is a savepoint of that one: its rollback undoes only its own
+// statements, and its Onayla() leaves the outer one to decide.
 class Islem {
  public:
   explicit Islem(Baglanti& b);
@@ -85,6 +99,7 @@ class Islem {
 
  private:
   Baglanti& b_;
+  bool ic_ = false;
   bool bitti_ = false;
 };
 

@@ -1,88 +1,49 @@
 #include "db/Kayitlar.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cstring>
 #include <numeric>
 
 #include "db/Baglanti.h"
+#include "db/Turkce.h"
 
 namespace db {
 
 namespace {
 
-// Position of a letter in the Turkish alphabet order, or -1 for a character
-// outside it. Capitals and small letters share a place; case is second.
-int HarfSirasi(QChar c) {
-  static const QString kucuk = QStringLiteral("abcçdefgğhıijklmnoöprsştuüvyzqwx");
-  static const QString buyuk = QStringLiteral("ABCÇDEFGĞHIİJKLMNOÖPRSŞTUÜVYZQWX");
-  int i = kucuk.indexOf(c);
-  if (i >= 0) return i;
-  return buyuk.indexOf(c);
-}
-
 bool Sayisal(const QVariant& v) {
-  const int t = v.typeId();
-  return t == QMetaType::LongLong || t == QMetaType::Int || t == QMetaType::Double ||
-         t == QMetaType::UInt || t == QMetaType::ULongLong || t == QMetaType::Bool;
+  switch (v.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+    case QMetaType::Long:
+    case QMetaType::ULong:
+    case QMetaType::Double:
+    case QMetaType::Float:
+      return true;
+    default:
+      return false;
+  }
 }
 
-bool Esit(const QVariant& a, const QVariant& b) {
-  if (NullMu(a) || NullMu(b)) return NullMu(a) && NullMu(b);
-  if (Sayisal(a) || Sayisal(b)) {
-    bool ok1 = false, ok2 = false;
-    const double x = a.toString().trimmed().toDouble(&ok1);
-    const double y = b.toString().trimmed().toDouble(&ok2);
-    if (ok1 && ok2) return x == y;
-    return false;
-  }
-  return a.toString() == b.toString();
-}
-
-int Karsilastir(const QVariant& a, const QVariant& b) {
-  const bool na = NullMu(a), nb = NullMu(b);
-  if (na || nb) return na == nb ? 0 : (na ? -1 : 1);
-  if (Sayisal(a) && Sayisal(b)) {
-    const double x = a.toDouble(), y = b.toDouble();
-    return x < y ? -1 : (x > y ? 1 : 0);
-  }
-  return TurkceKarsilastir(a.toString(), b.toString());
+// A whole text read as a number, blanks around it allowed, "." as the
+// decimal point.
+bool SayiOku(const char* p, std::size_t n, double& x) {
+  const char* son = p + n;
+  while (p < son && *p == ' ') ++p;
+  while (son > p && son[-1] == ' ') --son;
+  if (p < son && *p == '+') ++p;
+  if (p == son) return false;
+  const auto [kalan, hata] = std::from_chars(p, son, x);
+  return hata == std::errc() && kalan == son;
 }
 
 }  // namespace
-
-int TurkceKarsilastir(const QString& a, const QString& b) {
-  const int n = std::min(a.size(), b.size());
-  int buyukluk = 0;
-  for (int i = 0; i < n; ++i) {
-    const QChar x = a[i], y = b[i];
-    if (x == y) continue;
-    const int hx = HarfSirasi(x), hy = HarfSirasi(y);
-    if (hx >= 0 && hy >= 0) {
-      if (hx != hy) return hx < hy ? -1 : 1;
-      if (buyukluk == 0) buyukluk = x.isUpper() ? -1 : 1;  // capitals first on a tie
-      continue;
-    }
-    // Non-letters come before letters, and among themselves by code.
-    if (hx >= 0) return 1;
-    if (hy >= 0) return -1;
-    return x.unicode() < y.unicode() ? -1 : 1;
-  }
-  if (a.size() != b.size()) return a.size() < b.size() ? -1 : 1;
-  return buyukluk;
-}
-
-QString TurkceBuyuk(const QString& s) {
-  QString r;
-  r.reserve(s.size());
-  for (QChar c : s) {
-    if (c == QLatin1Char('i'))
-      r += QChar(0x0130);
-    else if (c == QChar(0x0131))
-      r += QLatin1Char('I');
-    else
-      r += c.toUpper();
-  }
-  return r;
-}
 
 int Kayitlar::AlanNo(const QString& ad) const {
   for (int i = 0; i < alanlar_.size(); ++i)
@@ -90,23 +51,47 @@ int Kayitlar::AlanNo(const QString& ad) const {
   return -1;
 }
 
-Kayitlar::Bookmark Kayitlar::bookmark() const { return SatirVar() ? kimlik_[konum_] : -1; }
-
-void Kayitlar::setBookmark(Bookmark b) {
-  const int i = int(kimlik_.indexOf(b));
-  konum_ = i >= 0 ? i : int(satirlar_.size());
-}
-
-QVariant Kayitlar::Fields(const QString& ad) const {
+int Kayitlar::AlanNoZorunlu(const QString& ad) const {
   const int i = AlanNo(ad);
   if (i < 0) throw Hata(QStringLiteral("Alan bulunamadı: %1").arg(ad));
-  return Fields(i);
+  return i;
 }
+
+void Kayitlar::setAbsolutePosition(int konum) {
+  konum_ = (konum >= 1 && konum <= satirSayisi_) ? konum - 1 : satirSayisi_;
+}
+
+void Kayitlar::Move(int satir) { konum_ = std::clamp(satir, -1, satirSayisi_); }
+
+Kayitlar::Bookmark Kayitlar::bookmark() const { return SatirVar() ? Fiziksel(konum_) : -1; }
+
+void Kayitlar::setBookmark(Bookmark b) {
+  if (b < 0 || b >= satirSayisi_)
+    konum_ = satirSayisi_;
+  else
+    konum_ = yer_.empty() ? b : yer_[std::size_t(b)];
+}
+
+QVariant Kayitlar::Varyant(const Hucre& h) const {
+  switch (h.tur) {
+    case Hucre::Tam:
+      return QVariant(qlonglong(h.tam));
+    case Hucre::Ondalik:
+      return QVariant(h.ondalik);
+    case Hucre::Yazi:
+      return QVariant(QString::fromUtf8(YaziBasi(h), qsizetype(h.yazi.boy)));
+    case Hucre::Bos:
+      break;
+  }
+  return QVariant();
+}
+
+QVariant Kayitlar::Fields(const QString& ad) const { return Fields(AlanNoZorunlu(ad)); }
 
 QVariant Kayitlar::Fields(int alan) const {
   if (!SatirVar()) throw Hata(QStringLiteral("Geçerli kayıt yok (EOF veya BOF)"));
   if (alan < 0 || alan >= alanlar_.size()) throw Hata(QStringLiteral("Alan numarası geçersiz"));
-  return satirlar_[konum_][alan];
+  return Varyant(HucreAl(Fiziksel(konum_), alan));
 }
 
 QString Kayitlar::Metin(const QString& ad) const {
@@ -115,28 +100,55 @@ QString Kayitlar::Metin(const QString& ad) const {
 }
 
 QVariant Kayitlar::Deger(int satir, int alan) const {
-  if (satir < 0 || satir >= satirlar_.size() || alan < 0 || alan >= alanlar_.size())
-    return QVariant();
-  return satirlar_[satir][alan];
+  if (satir < 0 || satir >= satirSayisi_ || alan < 0 || alan >= alanlar_.size()) return QVariant();
+  return Varyant(HucreAl(Fiziksel(satir), alan));
 }
 
 bool Kayitlar::Find(const QString& alan, const QVariant& deger, bool bastan) {
-  const int a = AlanNo(alan);
-  if (a < 0) throw Hata(QStringLiteral("Alan bulunamadı: %1").arg(alan));
-  int i = bastan ? 0 : std::max(konum_, 0);
-  for (; i < satirlar_.size(); ++i) {
-    if (Esit(satirlar_[i][a], deger)) {
+  const int a = AlanNoZorunlu(alan);
+  // The sought value once in each form the cells may have.
+  const bool bos = NullMu(deger);
+  bool sayiVar = false;
+  double sayi = 0;
+  bool yaziVar = false;
+  QByteArray yazi;
+  if (!bos && Sayisal(deger)) {
+    sayiVar = true;
+    sayi = deger.toDouble();
+  } else if (!bos) {
+    yaziVar = true;
+    yazi = deger.toString().toUtf8();
+    sayiVar = SayiOku(yazi.constData(), std::size_t(yazi.size()), sayi);
+  }
+  const auto esit = [&](const Hucre& h) {
+    switch (h.tur) {
+      case Hucre::Bos:
+        return bos;
+      case Hucre::Tam:
+        return sayiVar && double(h.tam) == sayi;
+      case Hucre::Ondalik:
+        return sayiVar && h.ondalik == sayi;
+      case Hucre::Yazi:
+        if (yaziVar)
+          return h.yazi.boy == std::uint32_t(yazi.size()) &&
+                 std::memcmp(YaziBasi(h), yazi.constData(), h.yazi.boy) == 0;
+        double x;
+        return sayiVar && SayiOku(YaziBasi(h), h.yazi.boy, x) && x == sayi;
+    }
+    return false;
+  };
+  for (int i = bastan ? 0 : std::max(konum_, 0); i < satirSayisi_; ++i) {
+    if (esit(HucreAl(Fiziksel(i), a))) {
       konum_ = i;
       return true;
     }
   }
-  konum_ = int(satirlar_.size());
+  konum_ = satirSayisi_;
   return false;
 }
 
 bool Kayitlar::FindIf(const std::function<bool(const Kayitlar&)>& kosul, bool bastan) {
-  const int bas = bastan ? 0 : std::max(konum_, 0);
-  for (konum_ = bas; konum_ < satirlar_.size(); ++konum_)
+  for (konum_ = bastan ? 0 : std::max(konum_, 0); konum_ < satirSayisi_; ++konum_)
     if (kosul(*this)) return true;
   return false;
 }
@@ -147,25 +159,35 @@ void Kayitlar::Requery() {
 }
 
 void Kayitlar::Sort(const QString& alan, bool artan) {
-  const int a = AlanNo(alan);
-  if (a < 0) throw Hata(QStringLiteral("Alan bulunamadı: %1").arg(alan));
+  const int a = AlanNoZorunlu(alan);
   const Bookmark b = bookmark();
-  QVector<int> sira(satirlar_.size());
-  std::iota(sira.begin(), sira.end(), 0);
-  std::stable_sort(sira.begin(), sira.end(), [&](int x, int y) {
-    const int k = Karsilastir(satirlar_[x][a], satirlar_[y][a]);
+  // Null, then numbers, then texts.
+  const auto sinif = [](const Hucre& h) {
+    return h.tur == Hucre::Bos ? 0 : (h.tur == Hucre::Yazi ? 2 : 1);
+  };
+  const auto sayi = [](const Hucre& h) { return h.tur == Hucre::Tam ? double(h.tam) : h.ondalik; };
+  const auto kiyasla = [&](int x, int y) {
+    const Hucre& hx = HucreAl(x, a);
+    const Hucre& hy = HucreAl(y, a);
+    const int sx = sinif(hx), sy = sinif(hy);
+    if (sx != sy) return sx < sy ? -1 : 1;
+    if (sx == 0) return 0;
+    if (sx == 2) return turkce::Karsilastir(YaziBasi(hx), hx.yazi.boy, YaziBasi(hy), hy.yazi.boy);
+    if (hx.tur == Hucre::Tam && hy.tur == Hucre::Tam)
+      return hx.tam < hy.tam ? -1 : (hx.tam > hy.tam ? 1 : 0);
+    const double vx = sayi(hx), vy = sayi(hy);
+    return vx < vy ? -1 : (vx > vy ? 1 : 0);
+  };
+  if (sira_.empty()) {
+    sira_.resize(std::size_t(satirSayisi_));
+    std::iota(sira_.begin(), sira_.end(), 0);
+  }
+  std::stable_sort(sira_.begin(), sira_.end(), [&](int x, int y) {
+    const int k = kiyasla(x, y);
     return artan ? k < 0 : k > 0;
   });
-  QVector<QVector<QVariant>> yeni;
-  QVector<int> yeniKimlik;
-  yeni.reserve(sira.size());
-  yeniKimlik.reserve(sira.size());
-  for (int i : sira) {
-    yeni.push_back(std::move(satirlar_[i]));
-    yeniKimlik.push_back(kimlik_[i]);
-  }
-  satirlar_ = std::move(yeni);
-  kimlik_ = std::move(yeniKimlik);
+  yer_.resize(sira_.size());
+  for (std::size_t i = 0; i < sira_.size(); ++i) yer_[std::size_t(sira_[i])] = int(i);
   if (b >= 0)
     setBookmark(b);
   else

@@ -29,7 +29,7 @@ CREATE TABLE Sozlesme (
   FaizTutarTL REAL);
 CREATE INDEX Sozlesme_Musteri ON Sozlesme(MusteriNo);
 CREATE INDEX Sozlesme_SeriNo ON Sozlesme(SozlesmeSeri, SozlesmeNo);
-CREATE INDEX Sozlesme_Tarih ON Sozlesme(Tarih);
+CREATE INDEX Sozlesme_TarihSeriNo ON Sozlesme(Tarih, SozlesmeSeri, SozlesmeNo);
 
 CREATE TABLE SozlesmeDetay (
   GirisNo INTEGER PRIMARY KEY AUTOINCREMENT, SozlesmeID INTEGER, SozlesmeSeri TEXT,
@@ -42,16 +42,17 @@ CREATE INDEX SozlesmeDetay_Vadesi ON SozlesmeDetay(Vadesi);
 CREATE INDEX SozlesmeDetay_Odenmesi ON SozlesmeDetay(Odenmesi);
 
 CREATE TABLE Fatura (
-  FaturaSeri TEXT, FaturaNo INTEGER, Tarih TEXT, MusteriNo INTEGER, SozlesmeID INTEGER,
-  SozlesmeSeri TEXT, SozlesmeNo INTEGER, Aciklama TEXT, Tutar REAL, BMVergisiYuzde REAL,
-  BMVergisi REAL, TahsilMasrafi REAL, PulBedeli REAL, ToplamMasraf REAL, ToplamTutar REAL,
-  Yaziyla TEXT, TutarTL REAL, BMVergisiTL REAL, TahsilMasrafiTL REAL, ToplamMasrafTL REAL,
-  ToplamTutarTL REAL);
-CREATE UNIQUE INDEX Fatura_SeriNo ON Fatura(FaturaSeri, FaturaNo);
+  FaturaSeri TEXT NOT NULL, FaturaNo INTEGER NOT NULL, Tarih TEXT, MusteriNo INTEGER,
+  SozlesmeID INTEGER, SozlesmeSeri TEXT, SozlesmeNo INTEGER, Aciklama TEXT, Tutar REAL,
+  BMVergisiYuzde REAL, BMVergisi REAL, TahsilMasrafi REAL, PulBedeli REAL, ToplamMasraf REAL,
+  ToplamTutar REAL, Yaziyla TEXT, TutarTL REAL, BMVergisiTL REAL, TahsilMasrafiTL REAL,
+  ToplamMasrafTL REAL, ToplamTutarTL REAL, PRIMARY KEY (FaturaSeri, FaturaNo));
 CREATE INDEX Fatura_Sozlesme ON Fatura(SozlesmeID);
 
 CREATE TABLE Kur (Tarih TEXT, Doviz TEXT, Kur REAL, CaprazKur REAL);
-CREATE UNIQUE INDEX Kur_TarihDoviz ON Kur(Tarih, Doviz);
+-- Not unique: adding the missing days of several new lines at once may bring a
+-- day and currency twice, and the rate screen updates them together.
+CREATE INDEX Kur_TarihDoviz ON Kur(Tarih, Doviz);
 
 CREATE TABLE Hesap (
   SozlesmeSeri TEXT, SozlesmeNo INTEGER, Tarih TEXT, MusteriNo INTEGER, Tutar REAL,
@@ -66,7 +67,8 @@ CREATE TABLE HesapDetay (
 
 CREATE TABLE HukukiDurum (DurumKod INTEGER PRIMARY KEY, Durum TEXT, Kategori TEXT);
 CREATE TABLE Il_Trafik_Kodu (IlKod INTEGER PRIMARY KEY, Il TEXT);
-CREATE TABLE DOVIZKOD (KOD TEXT PRIMARY KEY);
+-- No key, so that a plain read gives the codes in the order they stand, TRL first.
+CREATE TABLE DOVIZKOD (KOD TEXT NOT NULL);
 
 CREATE TABLE SozlesmeTanim (
   ID INTEGER PRIMARY KEY, SIRA INTEGER, SUTUN INTEGER, TIP TEXT, ALAN TEXT, BOY INTEGER,
@@ -113,20 +115,20 @@ ORDER BY Sozlesme.MusteriNo;
 )SQL";
 
 const char* const kIller[] = {
-      "Adana", "Adıyaman", "Afyonkarahisar", "Ağrı", "Amasya", "Ankara",
-      "Antalya", "Artvin", "Aydın", "Balıkesir", "Bilecik", "Bingöl",
-      "Bitlis", "Bol", "Burdur", "Bursa", "Çanakkale", "Çankırı",
-      "Çorum", "Denizli", "Diyarbakır", "Edirne", "Elazığ", "Erzincan",
-      "Erzurum", "Eskişehir", "Gaziantep", "Giresun", "Gümüşhane", "Hakkari",
-      "Hatay", "Isparta", "Mersin", "İstanbul", "İzmir", "Kars",
-      "Kastamon", "Kayseri", "Kırklareli", "Kırşehir", "Kocaeli", "Konya",
-      "Kütahya", "Malatya", "Manisa", "Kahramanmaraş", "Mardin", "Muğla",
-      "Muş", "Nevşehir", "Niğde", "Ord", "Rize", "Sakarya",
-      "Samsun", "Siirt", "Sinop", "Sivas", "Tekirdağ", "Tokat",
-      "Trabzon", "Tunceli", "Şanlıurfa", "Uşak", "Van", "Yozgat",
-      "Zonguldak", "Aksaray", "Bayburt", "Karaman", "Kırıkkale", "Batman",
-      "Şırnak", "Bartın", "Ardahan", "Iğdır", "Yalova", "Karabük",
-      "Kilis", "Osmaniye", "Düzce",
+    "Adana",     "Adıyaman",  "Afyonkarahisar", "Ağrı",          "Amasya",    "Ankara",
+    "Antalya",   "Artvin",    "Aydın",          "Balıkesir",     "Bilecik",   "Bingöl",
+    "Bitlis",    "Bolu",      "Burdur",         "Bursa",         "Çanakkale", "Çankırı",
+    "Çorum",     "Denizli",   "Diyarbakır",     "Edirne",        "Elazığ",    "Erzincan",
+    "Erzurum",   "Eskişehir", "Gaziantep",      "Giresun",       "Gümüşhane", "Hakkari",
+    "Hatay",     "Isparta",   "Mersin",         "İstanbul",      "İzmir",     "Kars",
+    "Kastamonu", "Kayseri",   "Kırklareli",     "Kırşehir",      "Kocaeli",   "Konya",
+    "Kütahya",   "Malatya",   "Manisa",         "Kahramanmaraş", "Mardin",    "Muğla",
+    "Muş",       "Nevşehir",  "Niğde",          "Ordu",          "Rize",      "Sakarya",
+    "Samsun",    "Siirt",     "Sinop",          "Sivas",         "Tekirdağ",  "Tokat",
+    "Trabzon",   "Tunceli",   "Şanlıurfa",      "Uşak",          "Van",       "Yozgat",
+    "Zonguldak", "Aksaray",   "Bayburt",        "Karaman",       "Kırıkkale", "Batman",
+    "Şırnak",    "Bartın",    "Ardahan",        "Iğdır",         "Yalova",    "Karabük",
+    "Kilis",     "Osmaniye",  "Düzce",
 };
 
 struct Durum {
@@ -152,7 +154,7 @@ const Durum kDurumlar[] = {
 };
 
 const char* const kDovizler[] = {"TRL", "USD", "EUR", "GBP", "CHF", "JPY",
-                                  "SAR", "DKK", "SEK", "NOK", "CAD", "AUD"};
+                                 "SAR", "DKK", "SEK", "NOK", "CAD", "AUD"};
 
 }  // namespace
 
@@ -172,8 +174,9 @@ void SemaOlustur(Baglanti& b) {
     b.Calistir(QStringLiteral("INSERT INTO Il_Trafik_Kodu(IlKod, Il) VALUES (?, ?)"),
                {i + 1, Iller()[i]});
   for (const Durum& d : kDurumlar)
-    b.Calistir(QStringLiteral("INSERT INTO HukukiDurum(DurumKod, Durum, Kategori) VALUES (?, ?, ?)"),
-               {d.kod, QString::fromUtf8(d.ad), QString::fromUtf8(d.kategori)});
+    b.Calistir(
+        QStringLiteral("INSERT INTO HukukiDurum(DurumKod, Durum, Kategori) VALUES (?, ?, ?)"),
+        {d.kod, QString::fromUtf8(d.ad), QString::fromUtf8(d.kategori)});
   for (const char* kod : kDovizler)
     b.Calistir(QStringLiteral("INSERT INTO DOVIZKOD(KOD) VALUES (?)"), {QString::fromUtf8(kod)});
   b.Calistir(QStringLiteral("INSERT INTO Versiyon(Major, Minor) VALUES (2, 3)"));

@@ -77,6 +77,8 @@ TEST_F(Kabuk, FirmaKaydiBaslikVeGenelDegerler) {
   EXPECT_EQ(Genel::FaturaSeri, QStringLiteral("FT"));
   ASSERT_NE(ana->arka, nullptr);
   EXPECT_EQ(ana->arka->Label1->text(), QStringLiteral("Kılıç Finans\n YTL Bilgi Sistemi"));
+  EXPECT_TRUE(ana->arka->isVisible());
+  EXPECT_TRUE(ana->arka->Label1->isVisible());
 
   // The background follows every change of the window's size.
   ana->resize(900, 600);
