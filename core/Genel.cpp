@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <cmath>
-#include <cstdio>
+#include <charconv>
 #include <cstdlib>
 
 namespace Genel {
@@ -114,8 +114,10 @@ double OndalikYuvarla(double x, int basamak, bool bankaci) {
   if (!std::isfinite(x) || x == 0) return x;
   const bool eksi = x < 0;
   char buf[40];
-  std::snprintf(buf, sizeof buf, "%.14e", std::fabs(x));
-  // buf: d.dddddddddddddde±XX
+  const auto son = std::to_chars(buf, buf + sizeof buf - 1, std::fabs(x),
+                                 std::chars_format::scientific, 14);
+  *son.ptr = '\0';
+  // buf: d.dddddddddddddde±XX, whatever the C locale says
   int rakam[15];
   int n = 0;
   const char* p = buf;
