@@ -57,22 +57,8 @@ class Komut {
     if (NullMu(v)) {
       rc = sqlite3_bind_null(st_, i);
     } else {
-      switch (v.typeId()) {
-        case QMetaType::Bool:
-        case QMetaType::Int:
-        case QMetaType::UInt:
-        case QMetaType::LongLong:
-        case QMetaType::ULongLong:
-        case QMetaType::Short:
-        case QMetaType::UShort:
-        case QMetaType::Long:
-        case QMetaType::ULong:
-          rc = sqlite3_bind_int64(st_, i, v.toLongLong());
-          break;
-        case QMetaType::Double:
-        case QMetaType::Float:
-          rc = sqlite3_bind_double(st_, i, v.toDouble());
-          break;
+      const int tur = v.typeId();
+      switch (tur) {
         case QMetaType::QDate: {
           const QDate d = v.toDate();
           rc = d.isValid() ? BaglaMetin(i, d.toString(Qt::ISODate)) : sqlite3_bind_null(st_, i);
@@ -85,7 +71,12 @@ class Komut {
           break;
         }
         default:
-          rc = BaglaMetin(i, v.toString());
+          if (TamSayiTuru(tur))
+            rc = sqlite3_bind_int64(st_, i, v.toLongLong());
+          else if (KesirliSayiTuru(tur))
+            rc = sqlite3_bind_double(st_, i, v.toDouble());
+          else
+            rc = BaglaMetin(i, v.toString());
       }
     }
     if (rc != SQLITE_OK) throw Hata(MotorMetni(db_));

@@ -29,6 +29,25 @@ class Hata : public std::runtime_error {
 inline QVariant Null() { return QVariant(); }
 inline bool NullMu(const QVariant& v) { return !v.isValid() || v.isNull(); }
 
+// Whole numbers and floating numbers among the value types a caller may bind.
+inline bool TamSayiTuru(int tur) {
+  switch (tur) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+    case QMetaType::Long:
+    case QMetaType::ULong:
+      return true;
+    default:
+      return false;
+  }
+}
+inline bool KesirliSayiTuru(int tur) { return tur == QMetaType::Double || tur == QMetaType::Float; }
+
 class Baglanti {
  public:
   enum class Kip { YazOku, SadeceOku };

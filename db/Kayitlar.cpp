@@ -13,22 +13,7 @@ namespace db {
 namespace {
 
 bool Sayisal(const QVariant& v) {
-  switch (v.typeId()) {
-    case QMetaType::Bool:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::Short:
-    case QMetaType::UShort:
-    case QMetaType::Long:
-    case QMetaType::ULong:
-    case QMetaType::Double:
-    case QMetaType::Float:
-      return true;
-    default:
-      return false;
-  }
+  return TamSayiTuru(v.typeId()) || KesirliSayiTuru(v.typeId());
 }
 
 // A whole text read as a number, blanks around it allowed, "." as the
