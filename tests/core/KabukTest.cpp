@@ -164,6 +164,20 @@ TEST_F(Kabuk, SaltOkunurDosya) {
   EXPECT_EQ(Dosya(), once);
 }
 
+TEST_F(Kabuk, AyarDiziniYoksaProgramBiter) {
+  QFile engel(ayarDizini() + QStringLiteral("/dosya"));
+  ASSERT_TRUE(engel.open(QIODevice::WriteOnly));
+  engel.close();
+  qputenv("VELMORA_AYAR", (engel.fileName() + QStringLiteral("/alt")).toUtf8());
+  Genel::Baglanti.Kapat();
+  frmMain ana;
+  ana.show();
+  EXPECT_FALSE(ana.Form_Load());
+  EXPECT_EQ(MesajMetinleri(), QStringList{QStringLiteral("Windows Dizini Bulunamadı!!!")});
+  EXPECT_EQ(Mesajlar()[0].baslik, QStringLiteral("ÖNEMLİ HATA"));
+  EXPECT_FALSE(Genel::Baglanti.Acik());
+}
+
 TEST_F(Kabuk, MenuVeEkranlar) {
   FirmaDoldur();
   auto ana = Baslat();
