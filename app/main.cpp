@@ -9,11 +9,7 @@
 #include "core/Genel.h"
 #include "core/frmMain.h"
 #include "master/frmFirma.h"
-
-#if __has_include("master/frmMusteri.h")
 #include "master/frmMusteri.h"
-#define VELMORA_MUSTERI 1
-#endif
 
 namespace {
 
@@ -48,9 +44,7 @@ int Yaziyla(const QString& tutar) {
 
 void EkranlariKaydet() {
   master::FirmaEkraniKaydet();
-#ifdef VELMORA_MUSTERI
   master::MusteriEkranlariKaydet();
-#endif
 }
 
 }  // namespace
