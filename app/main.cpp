@@ -10,6 +10,7 @@
 #include "core/frmMain.h"
 #include "master/frmFirma.h"
 #include "master/frmMusteri.h"
+#include "contract/frmNoDegis.h"
 
 namespace {
 
@@ -45,6 +46,7 @@ int Yaziyla(const QString& tutar) {
 void EkranlariKaydet() {
   master::FirmaEkraniKaydet();
   master::MusteriEkranlariKaydet();
+  contract::NoDegisEkraniKaydet();
 }
 
 }  // namespace
