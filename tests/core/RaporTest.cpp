@@ -7,11 +7,12 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 
 #include "core/Genel.h"
 #include "core/Rapor.h"
 #include "tests/support/Ortam.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -19,69 +20,44 @@ using rapor::Yazi;
 
 // --------------------------------------------------------------- formats
 
-TEST(RaporBicim, SayilarTurkceBicimde) {
+TEST(RaporBicim, SayilarTarihlerVeBolgeAyiricilari) {
   Genel::BolgeTurkce();
-  struct Durum {
-    QVariant deger;
-    const char* bicim;
-    const char* beklenen;
+  // A number, its format and the text: "0" a digit always, "#" one when needed;
+  // the Turkish way round ("#.##0,00") too; without a "0" before the decimal
+  // sign no zero integer part; halves away from zero on the decimal value.
+  const QString sayilar =
+      "1234.5 #,##0.00 = 1.234,50; 1234567.891 ###,###,###,###,##0.00 = 1.234.567,89; "
+      "-1234.5 #,##0.00 = -1.234,50; -0.004 #,##0.00 = 0,00; 1234.5 #.##0,00 = 1.234,50; "
+      "0.5 #.##0,00 = 0,50; 0.5 ###,###,###.00 = ,50; -0.5 #,###.00 = -,50; 0 #,###.00 = ,00; "
+      "12.5 #,###.00 = 12,50; 2.675 0.00 = 2,68; 1.005 #,##0.00 = 1,01; -2.5 0 = -3; "
+      "1.5 0.## = 1,5; 2 0.## = 2; 1234.5 0.00 = 1234,50; 1234.5 #,##0.00 TL = 1.234,50 TL";
+  for (const QString& d : sayilar.split("; ")) {
+    const QString sayi = d.section(' ', 0, 0), bicim = d.section(" = ", 0, 0).section(' ', 1);
+    EXPECT_EQ(rapor::Bicimle(sayi.toDouble(), bicim), d.section(" = ", 1)) << d.toStdString();
+  }
+  // Other values under one format: whole numbers, SQL texts of numbers and
+  // dates, texts that are neither, Null; without a format dates as the clerk
+  // reads them and numbers plainly.
+  const auto bicimle = [](const QVariantList& degerler, const QString& bicim) {
+    QStringList l;
+    for (const QVariant& d : degerler) l << rapor::Bicimle(d, bicim);
+    return l.join('|');
   };
-  const Durum durumlar[] = {
-      {1234.5, "#,##0.00", "1.234,50"},
-      {1234567.891, "###,###,###,###,##0.00", "1.234.567,89"},
-      {-1234.5, "#,##0.00", "-1.234,50"},
-      {-0.004, "#,##0.00", "0,00"},
-      // written the Turkish way round in some layouts
-      {1234.5, "#.##0,00", "1.234,50"},
-      {0.5, "#.##0,00", "0,50"},
-      // no zero before the decimal sign: the zero integer part is left out
-      {0.5, "###,###,###.00", ",50"},
-      {-0.5, "#,###.00", "-,50"},
-      {0.0, "#,###.00", ",00"},
-      {12.5, "#,###.00", "12,50"},
-      // halves away from zero, on the decimal value rather than the binary one
-      {2.675, "0.00", "2,68"},
-      {1.005, "#,##0.00", "1,01"},
-      {-2.5, "0", "-3"},
-      {1.5, "0.##", "1,5"},
-      {2.0, "0.##", "2"},
-      {qlonglong(1234567), "#,##0", "1.234.567"},
-      {1234.5, "0.00", "1234,50"},
-      {1234.5, "#,##0.00 TL", "1.234,50 TL"},
-      // SQL texts of numbers, and texts that are none
-      {QStringLiteral("1234.5"), "#,##0.00", "1.234,50"},
-      {QStringLiteral("ABC"), "#,##0.00", "ABC"},
-      {QVariant(), "#,##0.00", ""},
-  };
-  for (const auto& d : durumlar)
-    EXPECT_EQ(rapor::Bicimle(d.deger, QString::fromUtf8(d.bicim)), QString::fromUtf8(d.beklenen))
-        << d.deger.toString().toStdString() << " " << d.bicim;
-}
+  EXPECT_EQ(bicimle({qlonglong(1234567), "1234.5", "ABC", QVariant()}, "#,##0.00"),
+            u"1.234.567,00|1.234,50|ABC|"_s);
+  EXPECT_EQ(bicimle({"2024-03-05", QDate(2024, 3, 5), "Ödendi"}, "dd.MM.yyyy"),
+            u"05.03.2024|05.03.2024|Ödendi"_s);
+  EXPECT_EQ(bicimle({"2024-03-05 14:30:00"}, "dd.MM.yyyy hh:mm"), u"05.03.2024 14:30"_s);
+  EXPECT_EQ(bicimle({"2024-03-05", QDate(2024, 12, 1), 1234.5, qlonglong(7), "0012345", QVariant()},
+                    QString()),
+            u"05.03.2024|01.12.2024|1234,5|7|0012345|"_s);
 
-TEST(RaporBicim, TarihlerVeBicimsizDegerler) {
-  Genel::BolgeTurkce();
-  const QString gun = QStringLiteral("dd.MM.yyyy");
-  EXPECT_EQ(rapor::Bicimle(QStringLiteral("2024-03-05"), gun), "05.03.2024");
-  EXPECT_EQ(rapor::Bicimle(QDate(2024, 3, 5), gun), "05.03.2024");
-  EXPECT_EQ(rapor::Bicimle(QStringLiteral("2024-03-05 14:30:00"), "dd.MM.yyyy hh:mm"),
-            "05.03.2024 14:30");
-  EXPECT_EQ(rapor::Bicimle(QStringLiteral("Ödendi"), gun), "Ödendi");
-
-  // Without a format: stored dates as the clerk reads them, numbers plainly.
-  EXPECT_EQ(rapor::Bicimle(QStringLiteral("2024-03-05"), QString()), "05.03.2024");
-  EXPECT_EQ(rapor::Bicimle(QDate(2024, 12, 1), QString()), "01.12.2024");
-  EXPECT_EQ(rapor::Bicimle(1234.5, QString()), "1234,5");
-  EXPECT_EQ(rapor::Bicimle(qlonglong(7), QString()), "7");
-  EXPECT_EQ(rapor::Bicimle(QStringLiteral("0012345"), QString()), "0012345");
-  EXPECT_EQ(rapor::Bicimle(QVariant(), QString()), "");
-}
-
-TEST(RaporBicim, BolgeAyiricilariniIzler) {
+  // The separators come from the regional settings.
   Genel::Bolge().ondalik = QLatin1Char('.');
   Genel::Bolge().binlik = QLatin1Char(',');
-  EXPECT_EQ(rapor::Bicimle(1234.5, "#,##0.00"), "1,234.50");
-  EXPECT_EQ(rapor::Bicimle(0.5, "#,###.00"), ".50");
-  EXPECT_EQ(rapor::Bicimle(1234.5, QString()), "1234.5");
+  EXPECT_EQ(rapor::Bicimle(1234.5, "#,##0.00"), u"1,234.50"_s);
+  EXPECT_EQ(rapor::Bicimle(0.5, "#,###.00"), u".50"_s);
+  EXPECT_EQ(rapor::Bicimle(1234.5, QString()), u"1234.5"_s);
   Genel::BolgeTurkce();
 }
 
@@ -92,9 +68,8 @@ QString PdfSayfasi(const QString& yol, int sayfa) {
   const QString arac = QStandardPaths::findExecutable(QStringLiteral("pdftotext"));
   if (arac.isEmpty()) return QString();
   QProcess p;
-  p.start(arac, {QStringLiteral("-layout"), QStringLiteral("-enc"), QStringLiteral("UTF-8"),
-                 QStringLiteral("-f"), QString::number(sayfa), QStringLiteral("-l"),
-                 QString::number(sayfa), yol, QStringLiteral("-")});
+  p.start(arac, {"-layout", "-enc", "UTF-8", "-f", QString::number(sayfa), "-l",
+                 QString::number(sayfa), yol, "-"});
   EXPECT_TRUE(p.waitForFinished(30000));
   EXPECT_EQ(p.exitCode(), 0) << p.readAllStandardError().toStdString();
   return QString::fromUtf8(p.readAllStandardOutput());
@@ -138,8 +113,6 @@ class RaporTest : public test::Ortam {
     r.raporBasligi.Ekle(Yazi::Sabit("Çek Bordro Raporu", {0, 0, 80, 8}).Kalin().Punto(12));
     r.sayfaBasligi.yukseklik = 20;
     r.sayfaBasligi.Ekle(Yazi::Sabit("Keşideci", {0, 0, 35, 5}))
-        .Ekle(Yazi::Sabit("Vade", {35, 0, 20, 5}))
-        .Ekle(Yazi::Sabit("Tutar", {55, 0, 25, 5}).Sag())
         .Ekle(Yazi::Sabit("Devreden:", {0, 8, 35, 5}))
         .Ekle(Yazi::Toplam("Tutar", {45, 8, 35, 5}).Bicim("#,##0.00").Sag())
         .Ekle(rapor::Cizgi::Yatay(0, 18, 80));
@@ -177,84 +150,55 @@ TEST_F(RaporTest, PdfSayfalariVeMetni) {
   const QString yol = Yol("liste.pdf");
   ASSERT_TRUE(rapor::PdfYaz(Liste(17), yol));
   EXPECT_EQ(PdfSayfaSayisi(yol), 3);
-
-  PDF_METNI(ilk, yol, 1);
-  PDF_METNI(orta, yol, 2);
-  PDF_METNI(son, yol, 3);
-
-  // Report header on the first page only, page header on every page.
-  EXPECT_TRUE(ilk.contains("Çek Bordro Raporu")) << ilk.toStdString();
-  EXPECT_FALSE(orta.contains("Çek Bordro Raporu"));
-  for (const QString& s : {ilk, orta, son}) EXPECT_TRUE(s.contains("Keşideci")) << s.toStdString();
-
-  // Rows 1-6, 7-13, 14-17, with dates and amounts formatted.
-  EXPECT_TRUE(ilk.contains("Şükrü Öğün 01"));
-  EXPECT_TRUE(ilk.contains("01.02.2024"));
-  EXPECT_TRUE(ilk.contains("1.000,25"));
-  EXPECT_TRUE(ilk.contains("Şükrü Öğün 06"));
-  EXPECT_FALSE(ilk.contains("Şükrü Öğün 07"));
-  EXPECT_TRUE(orta.contains("Şükrü Öğün 07"));
-  EXPECT_TRUE(orta.contains("Şükrü Öğün 13")) << orta.toStdString();
-  EXPECT_FALSE(orta.contains("Şükrü Öğün 14"));
-  EXPECT_TRUE(son.contains("Şükrü Öğün 14"));
-  EXPECT_TRUE(son.contains("Şükrü Öğün 17"));
-
-  EXPECT_TRUE(ilk.contains("Sayfa: 1/3"));
-  EXPECT_TRUE(orta.contains("Sayfa: 2/3"));
-  EXPECT_TRUE(son.contains("Sayfa: 3/3"));
-
-  // The page footer sums up to the end of its page, the page header carries
-  // the rows of earlier pages: 1..6 make 21 x 1000,25, 1..13 make 91 x.
-  EXPECT_TRUE(ilk.contains("21.005,25"));
-  EXPECT_TRUE(orta.contains("21.005,25"));
-  EXPECT_TRUE(orta.contains("91.022,75"));
-  EXPECT_TRUE(son.contains("91.022,75"));
-
-  // Report footer after the last row only: 17 rows, 153 x 1000,25.
-  const QRegularExpression altlik(QStringLiteral("17\\s+Adet\\s+Toplam:\\s+153\\.038,25"));
-  EXPECT_TRUE(son.contains(altlik)) << son.toStdString();
-  EXPECT_FALSE(orta.contains("Toplam:"));
+  // What each page shows and what it must not. The report header on the first
+  // page only, the page header on every one; rows 1-6, 7-13, 14-17 with dates
+  // and amounts formatted. The page footer sums up to the end of its page, the
+  // page header carries the rows of earlier pages: 1..6 make 21 x 1000,25,
+  // 1..13 make 91 x.
+  const std::tuple<int, const char*, const char*> sayfalar[] = {
+      {1,
+       "Sayfa: 1/3|Çek Bordro Raporu|Keşideci|Şükrü Öğün 01|01.02.2024|1.000,25|Şükrü Öğün 06|"
+       "21.005,25",
+       "Şükrü Öğün 07|Toplam:"},
+      {2, "Sayfa: 2/3|Keşideci|Devreden:|21.005,25|Şükrü Öğün 07|Şükrü Öğün 13|91.022,75",
+       "Çek Bordro Raporu|Şükrü Öğün 06|Şükrü Öğün 14|Toplam:"},
+      // The report footer after the last row: 17 rows, 153 x 1000,25.
+      {3,
+       "Sayfa: 3/3|Keşideci|Devreden:|91.022,75|Şükrü Öğün 14|Şükrü Öğün 17|"
+       "17\\s+Adet\\s+Toplam:\\s+153.038,25",
+       "Şükrü Öğün 13"}};
+  for (const auto& [sayfa, var, yok] : sayfalar) {
+    PDF_METNI(metin, yol, sayfa);
+    for (const QString& desen : QString(var).split('|'))
+      EXPECT_TRUE(metin.contains(QRegularExpression(desen)))
+          << sayfa << ": " << desen.toStdString();
+    for (const QString& desen : QString(yok).split('|'))
+      EXPECT_FALSE(metin.contains(desen)) << sayfa << ": " << desen.toStdString();
+  }
 }
 
 TEST_F(RaporTest, AltlikToplamlariYuvarlanmamisDegerlerden) {
   rapor::Rapor r;
   // Three interests of 0,125 each show as 0,13, but add up to 0,375 -> 0,38.
   r.kayitlar = Genel::Baglanti.Sorgu(
-      QStringLiteral("SELECT 0.125 AS Faiz, 30 AS Gunu, 10.0 AS Masraf "
-                     "UNION ALL SELECT 0.125, NULL, 30.0 UNION ALL SELECT 0.125, 45, 20.0"));
-  r.detay.Ekle(Yazi::Alan("Faiz", {0, 0, 30, 5}).Bicim("#,##0.00").Sag());
-  r.detay.Ekle(Yazi::Toplam("Faiz", {40, 0, 40, 5}).Bicim("0.000").Sag());
-  r.raporAltligi.Ekle(Yazi::Sabit("Faiz:", {0, 0, 30, 5}))
-      .Ekle(Yazi::Toplam("Faiz", {40, 0, 40, 5}).Bicim("#,###.00").Sag())
-      .Ekle(Yazi::Sabit("Satır:", {0, 6, 30, 5}))
-      .Ekle(Yazi::Adet("", {40, 6, 40, 5}).Sag())
-      .Ekle(Yazi::Sabit("Gün adedi:", {0, 12, 30, 5}))
-      .Ekle(Yazi::Adet("Gunu", {40, 12, 40, 5}).Sag())
-      .Ekle(Yazi::Sabit("Masraf:", {0, 18, 30, 5}))
-      .Ekle(Yazi::EnBuyuk("Masraf", {40, 18, 40, 5}).Bicim("#,##0.00").Sag())
-      .Ekle(Yazi::Sabit("En az:", {0, 24, 30, 5}))
-      .Ekle(Yazi::EnKucuk("Masraf", {40, 24, 40, 5}).Bicim("#,##0.00").Sag());
+      "SELECT 0.125 AS Faiz, 30 AS Gunu, 10.0 AS Masraf "
+      "UNION ALL SELECT 0.125, NULL, 30.0 UNION ALL SELECT 0.125, 45, 20.0");
+  r.detay.Ekle(Yazi::Alan("Faiz", {0, 0, 30, 5}).Bicim("#,##0.00").Sag())
+      .Ekle(Yazi::Toplam("Faiz", {40, 0, 40, 5}).Bicim("0.000").Sag());
+  r.raporAltligi.Ekle(Yazi::Toplam("Faiz", {0, 0, 30, 5}).Bicim("#,###.00").Sag())
+      .Ekle(Yazi::Adet("", {35, 0, 30, 5}).Sag())
+      .Ekle(Yazi::Adet("Gunu", {70, 0, 30, 5}).Sag())
+      .Ekle(Yazi::EnBuyuk("Masraf", {105, 0, 30, 5}).Bicim("#,##0.00").Sag())
+      .Ekle(Yazi::EnKucuk("Masraf", {140, 0, 30, 5}).Bicim("#,##0.00").Sag());
   const QString yol = Yol("toplam.pdf");
   ASSERT_TRUE(rapor::PdfYaz(r, yol));
-  EXPECT_EQ(PdfSayfaSayisi(yol), 1);
-
   PDF_METNI(metin, yol, 1);
-  auto satir = [&](const QString& desen) {
-    return metin.contains(QRegularExpression(desen)) ? ::testing::AssertionSuccess()
-                                                     : ::testing::AssertionFailure()
-                                                           << desen.toStdString() << " not in\n"
-                                                           << metin.toStdString();
-  };
-  EXPECT_EQ(metin.count("0,13"), 3);
-  // The running sum in the detail band.
-  EXPECT_TRUE(satir("0,13\\s+0,125\\n"));
-  EXPECT_TRUE(satir("0,13\\s+0,250\\n"));
-  EXPECT_TRUE(satir("0,13\\s+0,375\\n"));
-  EXPECT_TRUE(satir("Faiz:\\s+,38\\n"));
-  EXPECT_TRUE(satir("Satır:\\s+3\\n"));
-  EXPECT_TRUE(satir("Gün adedi:\\s+2\\n"));
-  EXPECT_TRUE(satir("Masraf:\\s+30,00\\n"));
-  EXPECT_TRUE(satir("En az:\\s+10,00\\n"));
+  // The running sum in the detail band; in the footer the sum, the rows, the
+  // rows with a day count, the largest and the smallest charge.
+  EXPECT_TRUE(metin.contains(QRegularExpression(
+      "0,13\\s+0,125\\n.*0,13\\s+0,250\\n.*0,13\\s+0,375\\n.*,38\\s+3\\s+2\\s+30,00\\s+10,00\\n",
+      QRegularExpression::DotMatchesEverythingOption)))
+      << metin.toStdString();
 }
 
 TEST_F(RaporTest, BosRaporTekSayfa) {
@@ -273,17 +217,13 @@ TEST_F(RaporTest, PencereOnizlerVePdfKaydeder) {
   auto* p = rapor::Goster(Liste(17));
   test::Isle();
   EXPECT_TRUE(p->isVisible());
-  EXPECT_EQ(p->windowTitle(), "Cek Raporu");
+  EXPECT_EQ(p->windowTitle(), u"Cek Raporu"_s);
   EXPECT_EQ(p->onizleme->pageCount(), 3);
 
   p->cmdSonraki->trigger();
   test::Isle();
   EXPECT_EQ(p->onizleme->currentPage(), 2);
-  EXPECT_EQ(p->lblSayfa->text(), "Sayfa: 2/3");
-
-  const qreal once = p->onizleme->zoomFactor();
-  p->cmdYakinlastir->trigger();
-  EXPECT_GT(p->onizleme->zoomFactor(), once);
+  EXPECT_EQ(p->lblSayfa->text(), u"Sayfa: 2/3"_s);
 
   const QString yol = Yol("pencere.pdf");
   EXPECT_TRUE(p->PdfKaydet(yol));
