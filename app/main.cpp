@@ -11,6 +11,7 @@
 #include "master/frmFirma.h"
 #include "master/frmMusteri.h"
 #include "contract/frmNoDegis.h"
+#include "contract/frmSozles.h"
 
 namespace {
 
@@ -47,6 +48,7 @@ void EkranlariKaydet() {
   master::FirmaEkraniKaydet();
   master::MusteriEkranlariKaydet();
   contract::NoDegisEkraniKaydet();
+  contract::SozlesmeEkraniKaydet();
 }
 
 }  // namespace

@@ -53,6 +53,18 @@ class AyrilmaBekcisi : public QObject {
       return true;
     }
     if (e->type() == QEvent::MouseButtonPress && engel_ && o != engel_) engel_ = nullptr;
+    // A button's keyboard shortcut clicks it without moving the focus: the
+    // field being left is checked first all the same.
+    if (e->type() == QEvent::Shortcut) {
+      auto* dugme = qobject_cast<QAbstractButton*>(o);
+      QWidget* odak = QApplication::focusWidget();
+      if (dugme && odak && odak != dugme && kontroller_.contains(odak) &&
+          !dugme->property(kKontrolYok).toBool() && !Calistir(odak)) {
+        odak->setFocus(Qt::OtherFocusReason);
+        if (auto* kutu = qobject_cast<QLineEdit*>(odak)) kutu->selectAll();
+        return true;
+      }
+    }
     return false;
   }
 

@@ -1,0 +1,283 @@
+// The contract screen's commands that write contracts: new, change, save,
+// cancel, delete, and the proposal of the next number.
+
+#include <algorithm>
+
+#include "contract/Faiz.h"
+#include "contract/frmSozBul.h"
+#include "contract/frmSozles.h"
+#include "core/Genel.h"
+#include "core/Mesaj.h"
+
+namespace {
+
+// A value the screen can't give to the database. The save reports it as it
+// reports a refusal of the engine.
+struct Red {
+  QString neden;
+};
+
+// The contract number goes to the table as a 32-bit integer; the find and
+// renumber dialogs read it by the same rule.
+qint32 SozlesmeNoOku(const QString& metin) {
+  QString neden;
+  const std::optional<qint32> no = contract::SozlesmeNoOku(metin, &neden);
+  if (!no) throw Red{QStringLiteral("Sözleşme Numarası ") + neden};
+  return *no;
+}
+
+qint64 MusteriNoOku(const QString& metin) {
+  bool tamam = false;
+  const qint64 no = metin.trimmed().toLongLong(&tamam);
+  if (!tamam) throw Red{QStringLiteral("Müşteri Seçilmemiş")};
+  return no;
+}
+
+// An amount field: empty is 0.
+double TutarOku(const QString& metin, const QString& alan) {
+  if (metin.isEmpty()) return 0;
+  double v = 0;
+  if (!Genel::SayiOkuDene(metin, v)) throw Red{alan + QStringLiteral(" Sayı Değil")};
+  return v;
+}
+
+double OranOku(const QString& metin) {
+  double v = 0;
+  Genel::SayiOkuDene(metin, v);  // checked before
+  return v;
+}
+
+}  // namespace
+
+QString frmSozles::HataMetni() {
+  return QStringLiteral("Bir Hata Oldu, Lütfen Bilgileri Kontrol Edin");
+}
+
+bool frmSozles::SayiMi(const QString& metin) {
+  double v = 0;
+  return std::any_of(metin.begin(), metin.end(),
+                     [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); }) &&
+         Genel::SayiOkuDene(metin, v);
+}
+
+// --- a new contract
+
+void frmSozles::cmdNew_Click() {
+  if (txtMusteriNo->text().isEmpty() && MusteriBazinda()) {
+    mesaj::Kritik(QStringLiteral("Önce Bir Müşteri Seçmelisiniz"), QStringLiteral("Giriş Hatası"));
+    cmbAd->setFocus();
+    return;
+  }
+  KayitDurum = 2;
+  DetayDurum = 3;
+  DetaySayisi = 0;
+  bosalt();
+  CekBosalt();
+  cmbAd->setEnabled(false);
+  KontrolText(true);
+  txtSozlesmeNo->setReadOnly(false);
+  KontrolButon(QStringLiteral("Edit"));
+  SeriKod = Genel::SozlesmeSeri.leftJustified(2, QLatin1Char(' '), true);
+  cmdSozNoBul->setEnabled(true);
+  txtTarih->setFocus();
+  if (!MusteriBazinda()) {
+    // Over all contracts the customer is picked first.
+    cmbAd->setCurrentIndex(-1);
+    cmbAd->setEditText(QString());
+    cmbAd->setEnabled(true);
+    cmbAd->setFocus();
+  }
+}
+
+void frmSozles::cmdSozNoBul_Click() { SozNoBul(); }
+
+void frmSozles::SozNoBul() {
+  const QVariant son = Genel::Baglanti.Deger(QStringLiteral("SELECT max(Tarih) FROM Sozlesme"));
+  const QString tarih =
+      db::NullMu(son) ? QDate::currentDate().toString(Qt::ISODate) : son.toString();
+  const QVariant no = Genel::Baglanti.Deger(
+      QStringLiteral("SELECT max(SozlesmeNo) FROM Sozlesme WHERE SozlesmeSeri = ? AND Tarih >= ?"),
+      {Genel::SozlesmeSeri, tarih});
+  if (db::NullMu(no)) {
+    mesaj::Kritik(QStringLiteral("Hiç Sözlesme Girmemissiniz"));
+    txtSozlesmeNo->setFocus();
+    return;
+  }
+  txtSozlesmeNo->setText(QString::number(no.toLongLong() + 1));
+  txtFaizOran->setFocus();
+}
+
+qint32 frmSozles::YeniSozlesmeID() {
+  const QVariant son =
+      Genel::Baglanti.Deger(QStringLiteral("SELECT max(SozlesmeID) FROM Sozlesme"));
+  return db::NullMu(son) || son.toString().isEmpty() ? 1 : qint32(son.toLongLong() + 1);
+}
+
+// --- changing
+
+bool frmSozles::FaturaVar() {
+  const QVariant fatura = Genel::Baglanti.Deger(
+      QStringLiteral("SELECT FaturaNo FROM Fatura WHERE SozlesmeID = ?"), {SozlesmeID});
+  if (db::NullMu(fatura)) return false;
+  mesaj::Kritik(QStringLiteral("Bu Sözleşme için Kesilmiş %1 Nolu Fatura var, Değişiklik Yapmadan "
+                               "Önce Faturayı Silmelisiniz!")
+                    .arg(fatura.toString()),
+                QStringLiteral("FATURA KESİLMİŞ"));
+  return true;
+}
+
+void frmSozles::cmdEdit_Click() {
+  if (!rsSozlesme || !rsSozlesme->SatirVar()) return;
+  if (FaturaVar()) return;
+  KayitDurum = 1;
+  EskiSozlesmeNo = txtSozlesmeNo->text().trimmed().toInt();
+  KontrolText(true);
+  txtSozlesmeNo->setReadOnly(false);
+  KontrolButon(QStringLiteral("Edit"));
+  txtTarih->setFocus();
+}
+
+void frmSozles::cmdCancel_Click() {
+  cmbAd->setEnabled(true);
+  KayitDurum = 0;
+  Goster();
+}
+
+void frmSozles::cmdsil_Click() {
+  if (!rsSozlesme || !rsSozlesme->SatirVar()) return;
+  if (FaturaVar()) return;
+  if (!mesaj::EvetMi(
+          QStringLiteral("Müşteriye Ait Sözleşme, Çek Senet Kayıtlarıyla Birlikte Silinecektir. "),
+          QStringLiteral("Emin Misiniz?"), mesaj::Tur::Duz))
+    return;
+  try {
+    // The lines and the contract go together or not at all.
+    db::Islem islem(Genel::Baglanti);
+    Genel::Baglanti.Calistir(QStringLiteral("DELETE FROM SozlesmeDetay WHERE SozlesmeID = ?"),
+                             {SozlesmeID});
+    Genel::Baglanti.Calistir(QStringLiteral("DELETE FROM Sozlesme WHERE SozlesmeID = ?"),
+                             {SozlesmeID});
+    islem.Onayla();
+  } catch (const db::Hata& h) {
+    mesaj::Kritik(HataMetni() + QLatin1Char('\n') + h.metin(), QStringLiteral("Hata"));
+    return;
+  }
+  rsSozlesme->Requery();
+  Goster();
+}
+
+// --- saving
+
+void frmSozles::cmdSave_Click() { SozlesmeKaydet(); }
+
+bool frmSozles::SozlesmeKaydet() {
+  const auto hatali = [](QLineEdit* kutu, const QString& metin, const QString& baslik) {
+    mesaj::Kritik(metin, baslik);
+    kutu->setFocus();
+    return false;
+  };
+  if (txtSozlesmeNo->text().trimmed().isEmpty()) {
+    mesaj::Kritik(QStringLiteral("Lütfen Sözleşme Numarası Girin!!"), QStringLiteral("Uyarı"));
+    if (txtSozlesmeNo->isEnabled()) txtSozlesmeNo->setFocus();
+    return false;
+  }
+  const QString hataliGiris = QStringLiteral("Hatalı Giriş");
+  if (!Genel::TarihOku(txtTarih->text()).isValid())
+    return hatali(txtTarih, QStringLiteral("Lütfen Tarih Bilgisini Doldurun"), hataliGiris);
+  if (!SayiMi(txtFaizOran->text()))
+    return hatali(txtFaizOran, QStringLiteral("Lütfen Faiz Oranı Bilgisini Girin"), hataliGiris);
+  if (!SayiMi(txtGecikmeOran->text()))
+    return hatali(txtGecikmeOran, QStringLiteral("Lütfen Gecikme Oranı Bilgisini Girin"),
+                  hataliGiris);
+  if (!SayiMi(txtIskontoOran->text()))
+    return hatali(txtIskontoOran, QStringLiteral("Lütfen İskonto Oranı Bilgisini Girin"),
+                  hataliGiris);
+
+  try {
+    const QString doviz =
+        cmbDoviz->currentText().isEmpty() ? QStringLiteral("TRL") : cmbDoviz->currentText();
+    const QVariant tarih = Genel::TarihSql(txtTarih->text());
+    if (Hesapla)
+      TutarHesap();
+    else
+      Odenecek = TutarOku(txtTutar->text(), QStringLiteral("Tutar"));
+    const QString yaziyla = Odenecek > 0 ? Genel::YaziyaCevir(Odenecek) : QStringLiteral("Sıfır");
+
+    const qint32 no = SozlesmeNoOku(txtSozlesmeNo->text());
+    const qint64 musteri = MusteriNoOku(txtMusteriNo->text());
+    const double tutar = TutarOku(txtTutar->text(), QStringLiteral("Tutar"));
+    const double faizTutar = TutarOku(txtFaizTutar->text(), QStringLiteral("Faiz Tutar"));
+    const double faizOran = OranOku(txtFaizOran->text());
+    const double gecikme = OranOku(txtGecikmeOran->text());
+    const double iskonto = OranOku(txtIskontoOran->text());
+    const int hesapla = Hesapla ? 1 : 0;
+
+    if (KayitDurum == 2) {
+      const qint32 id = YeniSozlesmeID();
+      Genel::Baglanti.Calistir(
+          QStringLiteral("INSERT INTO Sozlesme(SozlesmeSeri, SozlesmeNo, MusteriNo, Tarih, Tutar, "
+                         "FaizOran, GecikmeOran, IskontoOran, FaizTutar, Yaziyla, Gun, ilaveGun, "
+                         "SozlesmeID, Doviz, Hesapla) "
+                         "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+          {Genel::SozlesmeSeri, no, musteri, tarih, tutar, faizOran, gecikme, iskonto, faizTutar,
+           yaziyla, GunYazisi, ilaveGun, id, doviz, hesapla});
+      SozlesmeID = id;
+      if (!rsSozlesme) {
+        // The customer-bound screen before its first contract.
+        const QString yazilan = txtSozlesmeNo->text();
+        BilgiBul();
+        if (!yazilan.isEmpty()) txtSozlesmeNo->setText(yazilan);
+      } else {
+        rsSozlesme->Requery();
+      }
+      SozlesmeyeGit(SozlesmeID);
+      Goster();
+    } else {
+      QString sql = QStringLiteral(
+          "UPDATE Sozlesme SET Tarih = ?, MusteriNo = ?, Tutar = ?, Gun = ?, ilaveGun = ?, "
+          "FaizOran = ?, GecikmeOran = ?, IskontoOran = ?, Yaziyla = ?, Doviz = ?, Hesapla = ?, "
+          "SozlesmeNo = ?");
+      QVariantList degerler = {tarih,   musteri, tutar,   GunYazisi, ilaveGun, faizOran,
+                               gecikme, iskonto, yaziyla, doviz,     hesapla,  no};
+      if (!txtFaizTutar->text().isEmpty()) {
+        sql += QStringLiteral(", FaizTutar = ?");
+        degerler << faizTutar;
+      }
+      sql += QStringLiteral(" WHERE SozlesmeID = ?");
+      degerler << SozlesmeID;
+      {
+        // A new number goes to the lines and the invoice with the contract.
+        db::Islem islem(Genel::Baglanti);
+        Genel::Baglanti.Calistir(sql, degerler);
+        if (no != EskiSozlesmeNo) {
+          Genel::Baglanti.Calistir(
+              QStringLiteral("UPDATE SozlesmeDetay SET SozlesmeNo = ? WHERE SozlesmeID = ?"),
+              {no, SozlesmeID});
+          Genel::Baglanti.Calistir(
+              QStringLiteral("UPDATE Fatura SET SozlesmeNo = ? WHERE SozlesmeID = ?"),
+              {no, SozlesmeID});
+        }
+        islem.Onayla();
+      }
+      // The set holds keys in the order of date and number (or date within a
+      // customer): it needs reading again only when the contract moved in
+      // that order or left the customer. Back to the contract, or, when it
+      // has left the set, to the place it stood.
+      const bool yerDegisti = tarih != okunanTarih_ || no != okunanNo_.toLongLong() ||
+                              musteri != okunanMusteri_.toLongLong();
+      if (yerDegisti && rsSozlesme) {
+        const int konum = rsSozlesme->AbsolutePosition();
+        rsSozlesme->Requery();
+        if (!SozlesmeyeGit(SozlesmeID)) rsSozlesme->setAbsolutePosition(konum);
+      }
+      Goster();
+    }
+    KayitDurum = 0;
+    return true;
+  } catch (const db::Hata& h) {
+    mesaj::Kritik(HataMetni() + QLatin1Char('\n') + h.metin(), QStringLiteral("Hata"));
+  } catch (const Red& r) {
+    mesaj::Kritik(HataMetni() + QLatin1Char('\n') + r.neden, QStringLiteral("Hata"));
+  }
+  return false;
+}

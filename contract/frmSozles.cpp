@@ -1,0 +1,915 @@
+// The contract screen: building it, opening it, showing a contract, the two
+// modes, the customer, navigation and the buttons that lead to other screens.
+// Saving, changing and deleting contracts are in SozlesKayit.cpp, the lines in
+// SozlesDetay.cpp.
+
+#include "contract/frmSozles.h"
+
+#include <QAbstractListModel>
+#include <QApplication>
+#include <QFocusEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QListView>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "contract/Faiz.h"
+#include "contract/frmSozBul.h"
+#include "contract/rptBordro.h"
+#include "core/Ekran.h"
+#include "core/Genel.h"
+#include "core/Mesaj.h"
+
+namespace contract {
+
+// The customers of cmbAd: the name to show and the customer's number as item
+// data. A plain list model, so that thirty thousand names go in at once.
+class MusteriListesi : public QAbstractListModel {
+ public:
+  struct Oge {
+    QString ad;
+    qint64 no;
+  };
+
+  using QAbstractListModel::QAbstractListModel;
+
+  void Doldur(QVector<Oge> ogeler) {
+    beginResetModel();
+    ogeler_ = std::move(ogeler);
+    endResetModel();
+  }
+
+  int Adet() const { return int(ogeler_.size()); }
+  const Oge& At(int satir) const { return ogeler_[satir]; }
+
+  int NoSatiri(qint64 no) const {
+    for (int i = 0; i < ogeler_.size(); ++i)
+      if (ogeler_[i].no == no) return i;
+    return -1;
+  }
+
+  // The entry of a typed name: as typed, else in any case by Turkish rules.
+  int AdSatiri(const QString& ad) const {
+    for (int i = 0; i < ogeler_.size(); ++i)
+      if (ogeler_[i].ad == ad) return i;
+    const QString buyuk = db::TurkceBuyuk(ad);
+    for (int i = 0; i < ogeler_.size(); ++i)
+      if (db::TurkceBuyuk(ogeler_[i].ad) == buyuk) return i;
+    return -1;
+  }
+
+  int rowCount(const QModelIndex& ust = {}) const override {
+    return ust.isValid() ? 0 : int(ogeler_.size());
+  }
+
+  QVariant data(const QModelIndex& i, int rol) const override {
+    if (!i.isValid() || i.row() >= ogeler_.size()) return {};
+    if (rol == Qt::DisplayRole || rol == Qt::EditRole) return ogeler_[i.row()].ad;
+    if (rol == Qt::UserRole) return ogeler_[i.row()].no;
+    return {};
+  }
+
+ private:
+  QVector<Oge> ogeler_;
+};
+
+}  // namespace contract
+
+namespace {
+
+const QColor kZemin(255, 192, 128);
+
+QLineEdit* Kutu(const QString& ad, int sinir = 0) {
+  auto* k = new QLineEdit;
+  k->setObjectName(ad);
+  if (sinir > 0) k->setMaxLength(sinir);
+  ekran::MetinSecKur(k);
+  return k;
+}
+
+QPushButton* Dugme(const QString& ad, const QString& yazi) {
+  auto* d = new QPushButton(yazi);
+  d->setObjectName(ad);
+  d->setAutoDefault(false);
+  d->setMinimumWidth(d->sizeHint().width() + 12);
+  return d;
+}
+
+// Keeps a widget's place in its layout while it is hidden, so that the screen
+// doesn't jump when the contract part comes and goes.
+void YeriniKoru(QWidget* w) {
+  QSizePolicy p = w->sizePolicy();
+  p.setRetainSizeWhenHidden(true);
+  w->setSizePolicy(p);
+}
+
+// A number column as the screen shows it: "4,5" for 4.5, "" for Null.
+QString SayiMetni(const QVariant& v) {
+  if (db::NullMu(v)) return QString();
+  if (v.typeId() == QMetaType::Double) {
+    QString s = QString::number(v.toDouble(), 'g', 15);
+    s.replace(QLatin1Char('.'), Genel::Bolge().ondalik);
+    return s;
+  }
+  return v.toString();
+}
+
+}  // namespace
+
+frmSozles::frmSozles(QWidget* ust)
+    : ekran::Form(ust), musteriler_(new contract::MusteriListesi(this)) {
+  Kur();
+  KurDavranis();
+}
+
+frmSozles::~frmSozles() {
+  // The grid outlives the record set while the widgets are torn down.
+  dGridDetay->Bagla(nullptr);
+}
+
+void frmSozles::Kur() {
+  QPalette zemin = palette();
+  zemin.setColor(QPalette::Window, kZemin);
+  setPalette(zemin);
+  setAutoFillBackground(true);
+
+  const auto etiket = [this](const QString& yazi) {
+    auto* l = new QLabel(yazi);
+    etiketler_ << l;
+    return l;
+  };
+  const int harf = fontMetrics().horizontalAdvance(QStringLiteral("0123456789")) / 10;
+  const auto genislik = [harf](QWidget* w, int n) { w->setFixedWidth(harf * n + 16); };
+
+  // --- the customer
+  frmSearch = new QGroupBox(QStringLiteral("Müşteri"));
+  frmSearch->setObjectName(QStringLiteral("frmSearch"));
+  lblSoyadAd = etiket(QStringLiteral("Soyad, Ad:"));
+  cmbAd = new QComboBox;
+  cmbAd->setObjectName(QStringLiteral("cmbAd"));
+  cmbAd->setEditable(true);
+  cmbAd->setInsertPolicy(QComboBox::NoInsert);
+  cmbAd->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  cmbAd->setModel(musteriler_);
+  cmbAd->setMaxVisibleItems(20);
+  if (auto* v = qobject_cast<QListView*>(cmbAd->view())) v->setUniformItemSizes(true);
+  cmbAd->setMinimumWidth(harf * 36);
+  cmdMusDetay = Dugme(QStringLiteral("cmdMusDetay"), QStringLiteral("?"));
+  cmdBilgiGoster =
+      Dugme(QStringLiteral("cmdBilgiGoster"), QStringLiteral("&Müşterinin Sözleşmelerini  Göster"));
+  txtMusteriNo = new QLineEdit(this);
+  txtMusteriNo->setObjectName(QStringLiteral("txtMusteriNo"));
+  txtMusteriNo->hide();
+  txtOldSeriNo = new QLineEdit(this);
+  txtOldSeriNo->setObjectName(QStringLiteral("txtOldSeriNo"));
+  txtOldSeriNo->hide();
+  {
+    auto* h = new QHBoxLayout(frmSearch);
+    h->addWidget(lblSoyadAd);
+    h->addWidget(cmbAd, 1);
+    h->addWidget(cmdMusDetay);
+    h->addSpacing(8);
+    h->addWidget(cmdBilgiGoster);
+  }
+
+  // --- the contract
+  txtTarih = Kutu(QStringLiteral("txtTarih"));
+  txtSozlesmeNo = Kutu(QStringLiteral("txtSozlesmeNo"), 10);
+  txtSozlesmeNo->setReadOnly(true);
+  cmdSozNoBul = Dugme(QStringLiteral("cmdSozNoBul"), QStringLiteral("?"));
+  txtTutar = Kutu(QStringLiteral("txtTutar"), 20);
+  txtFaizTutar = Kutu(QStringLiteral("txtFaizTutar"), 20);
+  txtOdenecek = Kutu(QStringLiteral("txtOdenecek"), 20);
+  txtOdenecek->setReadOnly(true);
+  for (QLineEdit* k : {txtTutar, txtFaizTutar, txtOdenecek}) k->setAlignment(Qt::AlignRight);
+  Frame1 = new QGroupBox(QStringLiteral("Oranlar"));
+  Frame1->setObjectName(QStringLiteral("Frame1"));
+  txtFaizOran = Kutu(QStringLiteral("txtFaizOran"), 10);
+  txtGecikmeOran = Kutu(QStringLiteral("txtGecikmeOran"), 10);
+  txtIskontoOran = Kutu(QStringLiteral("txtIskontoOran"), 10);
+  txtValor = Kutu(QStringLiteral("txtValor"), 2);
+  chkHesapla = new QCheckBox(QStringLiteral("Hesapla"));
+  chkHesapla->setObjectName(QStringLiteral("chkHesapla"));
+  cmbDoviz = new QComboBox;
+  cmbDoviz->setObjectName(QStringLiteral("cmbDoviz"));
+  cmbDoviz->setEditable(true);
+  cmbDoviz->setInsertPolicy(QComboBox::NoInsert);
+  cmbDoviz->lineEdit()->setMaxLength(3);
+  lblFaizGun = etiket(QString());
+  lblFaizGun->setObjectName(QStringLiteral("lblFaizGun"));
+  lblFaizGun->setMinimumWidth(harf * 14);
+  QFont kalin = lblFaizGun->font();
+  kalin.setBold(true);
+  lblFaizGun->setFont(kalin);
+  lblToplam = etiket(QString());
+  lblToplam->setObjectName(QStringLiteral("lblToplam"));
+  lblToplam->setAlignment(Qt::AlignCenter);
+  lblToplam->setMinimumWidth(harf * 20);
+
+  genislik(txtTarih, 10);
+  genislik(txtSozlesmeNo, 10);
+  genislik(txtValor, 3);
+  for (QLineEdit* k : {txtTutar, txtFaizTutar, txtOdenecek}) genislik(k, 15);
+  for (QLineEdit* k : {txtFaizOran, txtGecikmeOran, txtIskontoOran}) genislik(k, 6);
+  genislik(cmbDoviz, 6);
+  cmdSozNoBul->setFixedWidth(cmdSozNoBul->sizeHint().height() + 4);
+  cmdMusDetay->setFixedWidth(cmdMusDetay->sizeHint().height() + 4);
+
+  auto* sozlesme = new QGridLayout;
+  sozlesme->setHorizontalSpacing(8);
+  sozlesme->setVerticalSpacing(6);
+  const auto ikili = [](QWidget* a, QWidget* b) {
+    auto* h = new QHBoxLayout;
+    h->setSpacing(2);
+    h->addWidget(a);
+    h->addWidget(b);
+    h->addStretch();
+    return h;
+  };
+  sozlesme->addWidget(etiket(QStringLiteral("Tarih:")), 0, 0);
+  sozlesme->addWidget(txtTarih, 0, 1);
+  sozlesme->addWidget(etiket(QStringLiteral("Sözleşme No:")), 0, 2);
+  sozlesme->addLayout(ikili(txtSozlesmeNo, cmdSozNoBul), 0, 3);
+  sozlesme->addWidget(etiket(QStringLiteral("Valör:")), 0, 4);
+  sozlesme->addLayout(ikili(txtValor, chkHesapla), 0, 5);
+  sozlesme->addWidget(etiket(QStringLiteral("Tutar:")), 1, 0);
+  sozlesme->addWidget(txtTutar, 1, 1);
+  sozlesme->addWidget(etiket(QStringLiteral("Faiz Tutar:")), 1, 2);
+  sozlesme->addWidget(txtFaizTutar, 1, 3);
+  sozlesme->addWidget(etiket(QStringLiteral("ÖdenecekTutar:")), 1, 4);
+  sozlesme->addWidget(txtOdenecek, 1, 5);
+  sozlesme->addWidget(lblFaizGun, 1, 6);
+  sozlesme->setColumnStretch(6, 1);
+  sozlesme->setRowStretch(2, 1);
+  {
+    auto* oranlar = new QGridLayout(Frame1);
+    oranlar->setVerticalSpacing(4);
+    oranlar->addWidget(etiket(QStringLiteral("Faiz:")), 0, 0);
+    oranlar->addWidget(txtFaizOran, 0, 1);
+    oranlar->addWidget(etiket(QStringLiteral("Gecikme:")), 1, 0);
+    oranlar->addWidget(txtGecikmeOran, 1, 1);
+    oranlar->addWidget(etiket(QStringLiteral("İskonto:")), 2, 0);
+    oranlar->addWidget(txtIskontoOran, 2, 1);
+  }
+
+  // --- the lines
+  frmCek = new QGroupBox(QStringLiteral("Belge  Giriş - Düzeltme"));
+  frmCek->setObjectName(QStringLiteral("frmCek"));
+  cmbTip = new QComboBox;
+  cmbTip->setObjectName(QStringLiteral("cmbTip"));
+  cmbTip->addItems({QStringLiteral("Çek"), QStringLiteral("Senet")});
+  cmbTip->setCurrentIndex(-1);
+  txtKesideci = Kutu(QStringLiteral("txtKesideci"), 50);
+  txtBanka = Kutu(QStringLiteral("txtBanka"), 20);
+  txtSube = Kutu(QStringLiteral("txtSube"), 20);
+  txtHesapNo = Kutu(QStringLiteral("txtHesapNo"), 20);
+  txtCekNo = Kutu(QStringLiteral("txtCekNo"), 20);
+  txtVade = Kutu(QStringLiteral("txtVade"));
+  txtGun = Kutu(QStringLiteral("txtGun"), 3);
+  txtMeblag = Kutu(QStringLiteral("txtMeblag"));
+  txtMeblag->setAlignment(Qt::AlignRight);
+  cmdDetayEkle = Dugme(QStringLiteral("cmdDetayEkle"), QStringLiteral("Ekle"));
+  cmdVazgec = Dugme(QStringLiteral("cmdVazgec"), QStringLiteral("Vazgeç"));
+  cmdDetaySil = Dugme(QStringLiteral("cmdDetaySil"), QStringLiteral("Sil"));
+  cmdCekDuzelt = Dugme(QStringLiteral("cmdCekDuzelt"), QStringLiteral("DÜZELT"));
+  cmdDetaySil->hide();
+  YeriniKoru(cmdDetaySil);
+  genislik(cmbTip, 7);
+  genislik(txtVade, 10);
+  genislik(txtGun, 4);
+  genislik(txtMeblag, 15);
+  for (QLineEdit* k : {txtBanka, txtSube, txtHesapNo, txtCekNo}) genislik(k, 14);
+  {
+    auto* g = new QGridLayout(frmCek);
+    g->setHorizontalSpacing(8);
+    g->setVerticalSpacing(6);
+    g->addWidget(etiket(QStringLiteral("Belge Tipi:")), 0, 0);
+    g->addWidget(cmbTip, 0, 1);
+    g->addWidget(etiket(QStringLiteral("Keşideci:")), 0, 2);
+    g->addWidget(txtKesideci, 0, 3, 1, 5);
+    g->addWidget(etiket(QStringLiteral("Banka:")), 1, 0);
+    g->addWidget(txtBanka, 1, 1);
+    g->addWidget(etiket(QStringLiteral("Şube:")), 1, 2);
+    g->addWidget(txtSube, 1, 3);
+    g->addWidget(etiket(QStringLiteral("Hesap No:")), 1, 4);
+    g->addWidget(txtHesapNo, 1, 5);
+    g->addWidget(etiket(QStringLiteral("Çek No:")), 1, 6);
+    g->addWidget(txtCekNo, 1, 7);
+    g->addWidget(etiket(QStringLiteral("Vade:")), 2, 0);
+    g->addWidget(txtVade, 2, 1);
+    g->addWidget(etiket(QStringLiteral("Gün:")), 2, 2);
+    g->addWidget(txtGun, 2, 3, Qt::AlignLeft);
+    g->addWidget(etiket(QStringLiteral("Meblağ:")), 2, 4);
+    auto* tutar = new QHBoxLayout;
+    tutar->setSpacing(4);
+    tutar->addWidget(txtMeblag);
+    tutar->addWidget(cmbDoviz);
+    tutar->addStretch();
+    g->addLayout(tutar, 2, 5, 1, 3);
+    auto* dugmeler = new QVBoxLayout;
+    dugmeler->setSpacing(4);
+    for (QPushButton* d : {cmdDetayEkle, cmdVazgec, cmdDetaySil}) dugmeler->addWidget(d);
+    dugmeler->addStretch();
+    g->addLayout(dugmeler, 0, 8, 3, 1);
+    g->setColumnStretch(9, 1);
+  }
+
+  dGridDetay = new ekran::Izgara;
+  dGridDetay->setObjectName(QStringLiteral("dGridDetay"));
+  dGridDetay->setMinimumHeight(dGridDetay->verticalHeader()->defaultSectionSize() * 7);
+  {
+    ekran::IzgaraModeli* m = dGridDetay->Model();
+    m->Baslik(QStringLiteral("GirisNo"), QStringLiteral("GirisNo"));
+    m->Baslik(QStringLiteral("SozlesmeNo"), QStringLiteral("SozlesmeNo"));
+    m->Baslik(QStringLiteral("Tip"), QStringLiteral("Tip"));
+    m->Baslik(QStringLiteral("Kesideci"), QStringLiteral("Keşideci"));
+    m->Baslik(QStringLiteral("Banka"), QStringLiteral("Banka"));
+    m->Baslik(QStringLiteral("Sube"), QStringLiteral("Şube"));
+    m->Baslik(QStringLiteral("HesapNo"), QStringLiteral("Hesap No"));
+    m->Baslik(QStringLiteral("CekNo"), QStringLiteral("Çek No"));
+    m->Baslik(QStringLiteral("Vadesi"), QStringLiteral("Vadesi"));
+    m->TarihBicimi(QStringLiteral("Vadesi"));
+    m->Baslik(QStringLiteral("Gunu"), QStringLiteral("Gün"));
+    m->Ayar(QStringLiteral("Gunu")).hiza = Qt::AlignRight | Qt::AlignVCenter;
+    m->Baslik(QStringLiteral("Meblag"), QStringLiteral("Meblağ"));
+    ekran::IzgaraModeli::Sutun& meblag = m->Ayar(QStringLiteral("Meblag"));
+    meblag.hiza = Qt::AlignRight | Qt::AlignVCenter;
+    meblag.yaz = [](const QVariant& v) {
+      return db::NullMu(v) ? QString() : MeblagYazisi(v.toDouble());
+    };
+    m->Baslik(QStringLiteral("Durum"), QStringLiteral("Durum"));
+  }
+
+  // --- commands
+  cmdNew = Dugme(QStringLiteral("cmdNew"), QStringLiteral("&Yeni Sözleşme Gir"));
+  cmdEdit = Dugme(QStringLiteral("cmdEdit"), QStringLiteral("Değiştir"));
+  cmdSave = Dugme(QStringLiteral("cmdSave"), QStringLiteral("&Kaydet"));
+  cmdCancel = Dugme(QStringLiteral("cmdCancel"), QStringLiteral("&Vazgeç"));
+  cmdsil = Dugme(QStringLiteral("cmdsil"), QStringLiteral("Sil"));
+  cmdFind = Dugme(QStringLiteral("cmdFind"), QStringLiteral("Sözleşme Ara"));
+  cmdFatura = Dugme(QStringLiteral("cmdFatura"), QStringLiteral("Fatura"));
+  cmdYazdir = Dugme(QStringLiteral("cmdYazdir"), QStringLiteral("Yazdır"));
+  cmdBordro = Dugme(QStringLiteral("cmdBordro"), QStringLiteral("Bordro"));
+  cmdFirst = Dugme(QStringLiteral("cmdFirst"), QStringLiteral("<<"));
+  cmdPrev = Dugme(QStringLiteral("cmdPrev"), QStringLiteral("<"));
+  cmdNext = Dugme(QStringLiteral("cmdNext"), QStringLiteral(">"));
+  cmdLast = Dugme(QStringLiteral("cmdLast"), QStringLiteral(">>"));
+  cmdExit = Dugme(QStringLiteral("cmdExit"), QStringLiteral("&Çıkış"));
+  for (QPushButton* d : {cmdFirst, cmdPrev, cmdNext, cmdLast}) genislik(d, 3);
+  YeriniKoru(cmdFind);
+  YeriniKoru(cmdBilgiGoster);
+
+  // Contract fields on the left, rates on the right.
+  auto* ust = new QHBoxLayout;
+  ust->addLayout(sozlesme, 1);
+  ust->addWidget(Frame1);
+
+  auto* hareket = new QHBoxLayout;
+  for (QPushButton* d : {cmdFirst, cmdPrev}) hareket->addWidget(d);
+  hareket->addWidget(lblToplam);
+  for (QPushButton* d : {cmdNext, cmdLast}) hareket->addWidget(d);
+  hareket->addStretch();
+  hareket->addWidget(cmdCekDuzelt);
+
+  auto* komutlar = new QHBoxLayout;
+  for (QPushButton* d : {cmdNew, cmdEdit, cmdSave, cmdCancel, cmdsil}) komutlar->addWidget(d);
+  komutlar->addSpacing(12);
+  komutlar->addWidget(cmdFind);
+  komutlar->addStretch();
+  for (QPushButton* d : {cmdFatura, cmdYazdir, cmdBordro}) komutlar->addWidget(d);
+  komutlar->addSpacing(12);
+  komutlar->addWidget(cmdExit);
+
+  auto* duzen = new QVBoxLayout(this);
+  duzen->addWidget(frmSearch);
+  duzen->addLayout(ust);
+  duzen->addWidget(frmCek);
+  duzen->addWidget(dGridDetay, 1);
+  duzen->addLayout(hareket);
+  duzen->addLayout(komutlar);
+
+  // Everything Gorunum hides keeps its place.
+  for (QWidget* w :
+       std::initializer_list<QWidget*>{txtTarih, txtSozlesmeNo, txtValor, Frame1, txtTutar,
+                                       txtFaizTutar, txtOdenecek, dGridDetay, chkHesapla, cmdYazdir,
+                                       cmdBordro, cmdFatura, cmdSozNoBul, frmCek, cmdCekDuzelt})
+    YeriniKoru(w);
+  for (QLabel* l : etiketler_) YeriniKoru(l);
+}
+
+void frmSozles::KurDavranis() {
+  // Leaving a field.
+  ekran::AyrilirkenKontrol(cmbAd, [this] { return cmbAd_Validate(); });
+  ekran::AyrilirkenKontrol(txtTarih, [this] { return txtTarih_Validate(); });
+  ekran::AyrilirkenKontrol(txtVade,
+                           [this] { return !Ayriliyor(txtVade) || ekran::TarihDuzelt(txtVade); });
+  ekran::TarihKutusuKur(txtTarih);
+  ekran::TarihKutusuKur(txtVade);
+  ekran::AyrilirkenKontrol(txtTutar, [this] { return AlanKontrol(txtTutar, false); });
+  ekran::AyrilirkenKontrol(txtFaizTutar, [this] { return AlanKontrol(txtFaizTutar, false); });
+  ekran::AyrilirkenKontrol(txtOdenecek, [this] { return AlanKontrol(txtOdenecek, false); });
+  ekran::AyrilirkenKontrol(txtMeblag, [this] { return AlanKontrol(txtMeblag, true); });
+  for (QLineEdit* k : {txtFaizOran, txtGecikmeOran, txtIskontoOran})
+    ekran::AyrilirkenKontrol(k, [this, k] {
+      OranKontrol(k);
+      return true;
+    });
+  ekran::AyrilirkenKontrol(txtGun, [this] {
+    if (Ayriliyor(txtGun)) txtGun->setText(faiz::GunAlani(txtGun->text()));
+    return true;
+  });
+  ekran::AyrilirkenKontrol(txtValor, [this] { return txtValor_Validate(); });
+  for (QWidget* w :
+       std::initializer_list<QWidget*>{cmdCancel, cmdVazgec, cmdExit, cmdSozNoBul, cmdMusDetay})
+    ekran::KontrolTetiklemez(w);
+
+  // Focus and keys the screen watches itself.
+  for (QWidget* w :
+       std::initializer_list<QWidget*>{cmbAd, cmbTip, txtKesideci, txtBanka, txtSube, txtHesapNo})
+    w->installEventFilter(this);
+
+  connect(chkHesapla, &QCheckBox::clicked, this, [this] { chkHesapla_Click(); });
+  connect(cmbTip, &QComboBox::activated, this, [this] { cmbTip_Click(); });
+  connect(dGridDetay, &ekran::Izgara::CiftTiklandi, this, [this] { dGridDetay_DblClick(); });
+  const auto bagla = [this](QPushButton* d, void (frmSozles::*f)()) {
+    connect(d, &QPushButton::clicked, this, [this, f] { (this->*f)(); });
+  };
+  bagla(cmdBilgiGoster, &frmSozles::cmdBilgiGoster_Click);
+  bagla(cmdMusDetay, &frmSozles::cmdMusDetay_Click);
+  bagla(cmdNew, &frmSozles::cmdNew_Click);
+  bagla(cmdSozNoBul, &frmSozles::cmdSozNoBul_Click);
+  bagla(cmdEdit, &frmSozles::cmdEdit_Click);
+  bagla(cmdSave, &frmSozles::cmdSave_Click);
+  bagla(cmdCancel, &frmSozles::cmdCancel_Click);
+  bagla(cmdsil, &frmSozles::cmdsil_Click);
+  bagla(cmdFirst, &frmSozles::cmdFirst_Click);
+  bagla(cmdPrev, &frmSozles::cmdPrev_Click);
+  bagla(cmdNext, &frmSozles::cmdNext_Click);
+  bagla(cmdLast, &frmSozles::cmdLast_Click);
+  bagla(cmdFind, &frmSozles::cmdFind_Click);
+  bagla(cmdFatura, &frmSozles::cmdFatura_Click);
+  bagla(cmdYazdir, &frmSozles::cmdYazdir_Click);
+  bagla(cmdBordro, &frmSozles::cmdBordro_Click);
+  bagla(cmdExit, &frmSozles::cmdExit_Click);
+  bagla(cmdDetayEkle, &frmSozles::cmdDetayEkle_Click);
+  bagla(cmdCekDuzelt, &frmSozles::cmdCekDuzelt_Click);
+  bagla(cmdDetaySil, &frmSozles::cmdDetaySil_Click);
+  bagla(cmdVazgec, &frmSozles::cmdVazgec_Click);
+}
+
+// --- opening and closing
+
+void frmSozles::Form_Load() {
+  musteriBazinda_ = Genel::MusteriBazinda;
+  ekran::FormOrtala(this, kYukseklik, kGenislik);
+  lblFaizGun->clear();
+  txtMusteriNo->clear();
+  setWindowTitle(musteriBazinda_
+                     ? QStringLiteral("Sözleşme Bilgileri (Müşteri Bazında Gruplu)")
+                     : QStringLiteral("Sözleşme Bilgileri (Sözleşme Numarası Bazında)"));
+  cmdFind->setVisible(!musteriBazinda_);
+  cmdBilgiGoster->setVisible(musteriBazinda_);
+
+  cmbDoviz->clear();
+  db::Kayitlar doviz = Genel::Baglanti.Sorgu(QStringLiteral("SELECT KOD FROM DOVIZKOD"));
+  for (doviz.MoveFirst(); !doviz.Eof(); doviz.MoveNext())
+    cmbDoviz->addItem(doviz.Metin(QStringLiteral("KOD")));
+  cmbDoviz->setCurrentIndex(-1);
+
+  MusteriDoldur();
+  if (!musteriBazinda_)
+    rsSozlesme = Genel::Baglanti.Sorgu(
+        QStringLiteral("SELECT SozlesmeID FROM Sozlesme ORDER BY Tarih, SozlesmeSeri, SozlesmeNo"));
+  KayitDurum = 0;
+  Goster();
+}
+
+void frmSozles::MusteriDoldur() {
+  rsMusteri = Genel::Baglanti.Sorgu(
+      QStringLiteral("SELECT MusteriNo, Soyadi, Adi, Bulunacak FROM MusteriQry"));
+  const int adet = std::min(rsMusteri.RecordCount(), kMusteriSiniri);
+  const int ad = rsMusteri.AlanNo(QStringLiteral("Bulunacak"));
+  QVector<contract::MusteriListesi::Oge> ogeler;
+  ogeler.reserve(adet);
+  for (int i = 0; i < adet; ++i) {
+    const QVariant v = rsMusteri.Deger(i, ad);
+    ogeler.push_back(
+        {db::NullMu(v) ? QString() : v.toString(), rsMusteri.Deger(i, 0).toLongLong()});
+  }
+  std::stable_sort(ogeler.begin(), ogeler.end(), [](const auto& a, const auto& b) {
+    return db::TurkceKarsilastir(a.ad, b.ad) < 0;
+  });
+  musteriler_->Doldur(std::move(ogeler));
+  cmbAd->setCurrentIndex(-1);
+  rsMusteri.MoveFirst();
+}
+
+void frmSozles::Form_Unload() {
+  rsSozlesme.reset();
+  dGridDetay->Bagla(nullptr);
+  rsDetay = db::Kayitlar();
+  rsMusteri = db::Kayitlar();
+}
+
+void frmSozles::cmdExit_Click() { Kapat(); }
+
+// --- showing a contract
+
+db::Kayitlar frmSozles::KayitOku() const {
+  if (!rsSozlesme || !rsSozlesme->SatirVar()) return {};
+  return Genel::Baglanti.Sorgu(QStringLiteral("SELECT * FROM Sozlesme WHERE SozlesmeID = ?"),
+                               {rsSozlesme->Fields(0)});
+}
+
+void frmSozles::Goster() {
+  const db::Kayitlar kayit = KayitOku();
+  if (!kayit.SatirVar()) {
+    bosalt();
+    KontrolText(false);
+    KontrolButon(QStringLiteral("Bos"));
+  } else {
+    const auto alan = [&kayit](const char* ad) { return kayit.Fields(QString::fromLatin1(ad)); };
+    const QVariant hesapla = alan("Hesapla");
+    Hesapla = !(db::NullMu(hesapla) || hesapla.toDouble() == 0);
+    HesaplaKilit();
+    chkHesapla->setChecked(Hesapla);
+
+    txtTarih->setText(Genel::TarihEkran(alan("Tarih")));
+    txtTutar->setText(faiz::ParaYazisi(alan("Tutar").toDouble()));
+    txtFaizOran->setText(SayiMetni(alan("FaizOran")));
+    txtIskontoOran->setText(SayiMetni(alan("IskontoOran")));
+    txtGecikmeOran->setText(SayiMetni(alan("GecikmeOran")));
+    txtSozlesmeNo->setText(SayiMetni(alan("SozlesmeNo")));
+
+    SozlesmeID = alan("SozlesmeID").toInt();
+    const QString seri = kayit.Metin(QStringLiteral("SozlesmeSeri"));
+    SeriKod = seri.leftJustified(2, QLatin1Char(' '), true);
+    txtOldSeriNo->setText(seri);
+
+    const QVariant ilave = alan("ilaveGun");
+    ilaveGun = db::NullMu(ilave) ? 0 : ilave.toLongLong();
+    txtValor->setText(faiz::ValorYazisi(ilaveGun));
+
+    if (!musteriBazinda_) {
+      txtMusteriNo->setText(SayiMetni(alan("MusteriNo")));
+      MusteriBul();
+    }
+
+    const QVariant faizTutar = alan("FaizTutar");
+    if (!db::NullMu(faizTutar)) {
+      txtFaizTutar->setText(faiz::ParaYazisi(faizTutar.toDouble()));
+      Odenecek = alan("Tutar").toDouble() - faizTutar.toDouble();
+      txtOdenecek->setText(faiz::ParaYazisi(Odenecek));
+      lblFaizGun->clear();
+    }
+
+    lblToplam->setText(QStringLiteral("Kayıt:  %1 / %2")
+                           .arg(rsSozlesme->AbsolutePosition())
+                           .arg(rsSozlesme->RecordCount()));
+    okunanTarih_ = alan("Tarih");
+    okunanNo_ = alan("SozlesmeNo");
+    okunanMusteri_ = alan("MusteriNo");
+
+    KontrolText(false);
+    KontrolButon(QStringLiteral("Normal"));
+    DetayAc();
+  }
+  if (musteriBazinda_) cmbAd->setEnabled(true);
+  TutarHesap();
+}
+
+void frmSozles::bosalt() {
+  for (QLineEdit* k : {txtTarih, txtSozlesmeNo, txtTutar, txtFaizTutar, txtFaizOran, txtGecikmeOran,
+                       txtIskontoOran, txtOdenecek})
+    k->clear();
+  lblToplam->clear();
+  lblFaizGun->clear();
+  SozlesmeID = 0;
+  ilaveGun = Genel::IlaveGun;
+  Hesapla = Genel::Hesapla;
+  chkHesapla->setChecked(Hesapla);
+  HesaplaKilit();
+  txtValor->setText(faiz::ValorYazisi(ilaveGun));
+  okunanTarih_ = okunanNo_ = okunanMusteri_ = QVariant();
+  // A set without rows (the rowid is never Null), so that the grid keeps its
+  // columns.
+  rsDetay =
+      Genel::Baglanti.Sorgu(QStringLiteral("SELECT * FROM SozlesmeDetay WHERE GirisNo IS NULL"));
+  DetayBagla();
+}
+
+void frmSozles::KontrolText(bool Durum) {
+  for (QWidget* w : std::initializer_list<QWidget*>{
+           txtTarih,    txtSozlesmeNo,  txtTutar,       txtFaizTutar, txtOdenecek,
+           txtFaizOran, txtGecikmeOran, txtIskontoOran, txtValor,     txtKesideci,
+           txtBanka,    txtSube,        txtHesapNo,     txtCekNo,     txtVade,
+           txtGun,      txtMeblag,      cmbTip,         cmbDoviz,     chkHesapla})
+    w->setEnabled(Durum);
+  if (!musteriBazinda_) cmbAd->setEnabled(false);
+}
+
+bool frmSozles::KomutHazir(const QString& ad) const {
+  return ekran::KomutVar(ad) || ekran::KayitliMi(ad);
+}
+
+void frmSozles::KontrolButon(const QString& Mod) {
+  const bool normal = Mod == QLatin1String("Normal");
+  const bool duzen = Mod == QLatin1String("Edit");
+  const bool bos = Mod == QLatin1String("Bos");
+  for (QWidget* w : {cmdFirst, cmdLast, cmdPrev, cmdNext, cmdEdit, cmdsil, cmdFind, cmdBordro})
+    w->setEnabled(normal);
+  cmdNew->setEnabled(normal || bos);
+  for (QWidget* w : {cmdSave, cmdCancel, cmdDetayEkle, cmdVazgec}) w->setEnabled(duzen);
+  // Their screens may not be there yet.
+  cmdFatura->setEnabled(normal && KomutHazir(QStringLiteral("frmFatura")));
+  cmdYazdir->setEnabled(normal && KomutHazir(QStringLiteral("SozlesmeYazdir")));
+  if (normal) cmdSozNoBul->setEnabled(false);
+  cmdMusDetay->setEnabled(normal || duzen);
+  Gorunum(!bos);
+  cmdDetaySil->setVisible(false);
+  if (Genel::SadeceGoster)
+    for (QWidget* w : {cmdCekDuzelt, cmdDetayEkle, cmdDetaySil, cmdEdit, cmdNew, cmdSave, cmdsil,
+                       cmdYazdir, cmdBordro})
+      w->setEnabled(false);
+}
+
+void frmSozles::Gorunum(bool Durum) {
+  for (QWidget* w : std::initializer_list<QWidget*>{
+           txtTarih,     txtSozlesmeNo, txtValor,   Frame1,    cmbTip,       txtKesideci,
+           txtBanka,     txtSube,       txtHesapNo, txtCekNo,  txtVade,      txtMeblag,
+           cmbDoviz,     cmdDetayEkle,  cmdVazgec,  txtTutar,  txtFaizTutar, dGridDetay,
+           chkHesapla,   cmdYazdir,     cmdBordro,  cmdFatura, cmdSozNoBul,  frmCek,
+           cmdCekDuzelt, txtOdenecek})
+    w->setVisible(Durum);
+  for (QLabel* l : etiketler_) l->setVisible(Durum);
+  lblSoyadAd->setVisible(true);
+}
+
+// --- the customer
+
+void frmSozles::MusteriBul() {
+  rsMusteri.MoveFirst();
+  bool sayi = false;
+  const qint64 no = txtMusteriNo->text().trimmed().toLongLong(&sayi);
+  // rsMusteri stands in number order: halve it.
+  int alt = 0, ust = rsMusteri.RecordCount() - 1, bulunan = -1;
+  while (sayi && alt <= ust) {
+    const int orta = alt + (ust - alt) / 2;
+    const qint64 x = rsMusteri.Deger(orta, 0).toLongLong();
+    if (x == no) {
+      bulunan = orta;
+      break;
+    }
+    if (x < no)
+      alt = orta + 1;
+    else
+      ust = orta - 1;
+  }
+  if (bulunan < 0) {
+    mesaj::Kritik(QStringLiteral("Aranan Kayıt Bulunamadı!"), QStringLiteral("Arama"));
+    rsMusteri.MoveFirst();
+    cmbAd->setFocus();
+    return;
+  }
+  rsMusteri.Move(bulunan);
+  const int satir = musteriler_->NoSatiri(no);
+  if (satir >= 0) {
+    cmbAd->setCurrentIndex(satir);
+  } else {  // beyond the customers the list takes
+    cmbAd->setCurrentIndex(-1);
+    cmbAd->setEditText(rsMusteri.Metin(QStringLiteral("Bulunacak")));
+  }
+}
+
+int frmSozles::SeciliMusteri() const {
+  const QString yazi = cmbAd->currentText();
+  const int i = cmbAd->currentIndex();
+  if (i >= 0 && cmbAd->itemText(i) == yazi) return i;
+  return yazi.isEmpty() ? -1 : musteriler_->AdSatiri(yazi);
+}
+
+void frmSozles::cmbAd_GotFocus() {
+  // The old contract goes while another customer is picked.
+  if (musteriBazinda_) Gorunum(false);
+}
+
+bool frmSozles::cmbAd_Validate() {
+  // Opening its own list is no leaving.
+  if (QApplication::activePopupWidget() || !Ayriliyor(cmbAd)) return true;
+  const int i = SeciliMusteri();
+  // Browsing, an empty list is no pick to refuse: cmdNew tells the clerk to
+  // pick a customer. A new contract over all contracts needs one.
+  if (i < 0 && KayitDurum == 0 && cmbAd->currentText().trimmed().isEmpty()) return true;
+  if (i < 0) {
+    mesaj::Kritik(QStringLiteral("Lütfen Listeden Bir Müşteri Seçiniz"),
+                  QStringLiteral("Müşteri Seçimi"));
+    return false;
+  }
+  if (cmbAd->currentIndex() != i) cmbAd->setCurrentIndex(i);
+  txtMusteriNo->setText(QString::number(musteriler_->At(i).no));
+  return true;
+}
+
+void frmSozles::cmdBilgiGoster_Click() {
+  const int i = SeciliMusteri();
+  if (i < 0) {
+    mesaj::Kritik(QStringLiteral("Lütfen Listeden Bir Müşteri Seçiniz"),
+                  QStringLiteral("Müşteri Seçimi"));
+    cmbAd->setFocus();
+    return;
+  }
+  cmbAd->setCurrentIndex(i);
+  txtMusteriNo->setText(QString::number(musteriler_->At(i).no));
+  BilgiBul();
+}
+
+void frmSozles::BilgiBul() {
+  if (!musteriBazinda_) return;
+  bool sayi = false;
+  const qint64 no = txtMusteriNo->text().trimmed().toLongLong(&sayi);
+  rsSozlesme = Genel::Baglanti.Sorgu(
+      QStringLiteral("SELECT SozlesmeID FROM Sozlesme WHERE MusteriNo = ? ORDER BY Tarih"),
+      {sayi ? QVariant(no) : db::Null()});
+  Goster();
+}
+
+void frmSozles::cmdMusDetay_Click() {
+  bool sayi = false;
+  const qint64 no = txtMusteriNo->text().trimmed().toLongLong(&sayi);
+  try {
+    if (!sayi) throw db::Hata(QStringLiteral("MusteriNo"));
+    const db::Kayitlar rs =
+        Genel::Baglanti.Sorgu(QStringLiteral("SELECT * FROM Musteri WHERE MusteriNo = ?"), {no});
+    QString metin = QStringLiteral("Müşteri Detayı Bulunamadı");
+    if (rs.SatirVar()) {
+      const auto m = [&rs](const char* ad) { return rs.Metin(QString::fromLatin1(ad)); };
+      metin = m("Soyadi") + QLatin1Char(' ') + m("Adi") + QLatin1Char('\n') + m("Adres") +
+              QLatin1Char('\n') + m("Ilce") + QLatin1Char('/') + m("Il_Ad");
+    }
+    mesaj::Goster(metin, QStringLiteral("Müşteri Bilgisi"), mesaj::Tur::Duz);
+  } catch (const db::Hata&) {
+    mesaj::Kritik(QStringLiteral("Veritabanı açılamadı"), QStringLiteral("HATA"));
+  }
+}
+
+// --- moving
+
+void frmSozles::cmdFirst_Click() {
+  if (!rsSozlesme) return;
+  rsSozlesme->MoveFirst();
+  Goster();
+}
+
+void frmSozles::cmdPrev_Click() {
+  if (!rsSozlesme) return;
+  rsSozlesme->MovePrevious();
+  if (rsSozlesme->Bof()) rsSozlesme->MoveFirst();
+  Goster();
+}
+
+void frmSozles::cmdNext_Click() {
+  if (!rsSozlesme) return;
+  rsSozlesme->MoveNext();
+  if (rsSozlesme->Eof()) rsSozlesme->MoveLast();
+  Goster();
+}
+
+void frmSozles::cmdLast_Click() {
+  if (!rsSozlesme) return;
+  rsSozlesme->MoveLast();
+  Goster();
+}
+
+bool frmSozles::SozlesmeyeGit(qint32 id) {
+  return rsSozlesme && rsSozlesme->Find(QStringLiteral("SozlesmeID"), id, true);
+}
+
+void frmSozles::cmdFind_Click() {
+  {
+    frmSozBul bul(this);
+    bul.exec();
+  }
+  if (BulunanSozlesmeID == 0 || !rsSozlesme) return;
+  const int konum = rsSozlesme->AbsolutePosition();
+  if (!SozlesmeyeGit(BulunanSozlesmeID)) {
+    mesaj::Kritik(QStringLiteral("Kayit Yok"), QStringLiteral("Arama Sonucu"));
+    rsSozlesme->setAbsolutePosition(konum);
+  }
+  Goster();
+}
+
+// --- other screens
+
+void frmSozles::cmdFatura_Click() {
+  const QString ad = QStringLiteral("frmFatura");
+  if (ekran::KomutVar(ad))
+    ekran::KomutCalistir(ad);
+  else if (ekran::KayitliMi(ad))
+    ekran::Ac(ad);
+}
+
+void frmSozles::cmdYazdir_Click() {
+  const QString ad = QStringLiteral("SozlesmeYazdir");
+  if (ekran::KomutVar(ad))
+    ekran::KomutCalistir(ad);
+  else if (ekran::KayitliMi(ad))
+    ekran::Ac(ad);
+}
+
+void frmSozles::cmdBordro_Click() {
+  contract::BordroEtiketleri e;
+  e.Musteri = cmbAd->currentText();
+  e.FaizOran = txtFaizOran->text();
+  e.Seri = Genel::SozlesmeSeri;
+  e.SozlesmeNo = txtSozlesmeNo->text();
+  e.Tarih = txtTarih->text();
+  e.OrtGun = Genel::OrtGun;
+  contract::BordroGoster(SozlesmeID, e, this);
+}
+
+// --- fields
+
+bool frmSozles::Ayriliyor(QWidget* w) { return w->isEnabled() && w->isVisible(); }
+
+void frmSozles::HesaplaKilit() {
+  const faiz::HesaplaKilidi k = faiz::HesaplaKilit(Hesapla);
+  const auto uygula = [](QLineEdit* kutu, const faiz::AlanKilidi& kilit) {
+    kutu->setReadOnly(kilit.Kilitli);
+    if (kilit.Sekmede) kutu->setFocusPolicy(*kilit.Sekmede ? Qt::StrongFocus : Qt::ClickFocus);
+  };
+  uygula(txtTutar, k.txtTutar);
+  uygula(txtFaizTutar, k.txtFaizTutar);
+  uygula(txtOdenecek, k.txtOdenecek);
+}
+
+void frmSozles::chkHesapla_Click() {
+  Hesapla = chkHesapla->isChecked();
+  HesaplaKilit();
+}
+
+bool frmSozles::txtTarih_Validate() { return !Ayriliyor(txtTarih) || ekran::TarihDuzelt(txtTarih); }
+
+bool frmSozles::txtValor_Validate() {
+  if (!Ayriliyor(txtValor)) return true;
+  if (const auto yeni = faiz::ValorAlani(txtValor->text())) ilaveGun = *yeni;
+  return true;
+}
+
+bool frmSozles::AlanKontrol(QLineEdit* kutu, bool Meblag) {
+  if (!Ayriliyor(kutu)) return true;
+  const std::optional<QString> yeni = faiz::TutarAlani(kutu->text(), Meblag);
+  if (!yeni) {
+    mesaj::Kritik(QStringView(faiz::kMiktarMesaji).toString(),
+                  QStringView(faiz::kMiktarBaslik).toString());
+    return false;
+  }
+  if (*yeni != kutu->text()) kutu->setText(*yeni);
+  return true;
+}
+
+void frmSozles::OranKontrol(QLineEdit* kutu) {
+  if (!Ayriliyor(kutu)) return;
+  const QString yeni = faiz::OranAlani(kutu->text());
+  if (yeni != kutu->text()) kutu->setText(yeni);
+}
+
+bool frmSozles::eventFilter(QObject* o, QEvent* e) {
+  if (e->type() == QEvent::FocusIn && o == cmbAd &&
+      static_cast<QFocusEvent*>(e)->reason() != Qt::PopupFocusReason) {
+    cmbAd_GotFocus();
+  } else if (e->type() == QEvent::FocusOut) {
+    const Qt::FocusReason neden = static_cast<QFocusEvent*>(e)->reason();
+    if (o == cmbTip && neden != Qt::PopupFocusReason && neden != Qt::ActiveWindowFocusReason)
+      cmbTip_LostFocus();
+    // Each of the four remembers what it was left with.
+    if (o == txtKesideci) SonDeger[Kesideci] = txtKesideci->text();
+    if (o == txtBanka) SonDeger[Banka] = txtBanka->text();
+    if (o == txtSube) SonDeger[Sube] = txtSube->text();
+    if (o == txtHesapNo) SonDeger[HesapNo] = txtHesapNo->text();
+  } else if (e->type() == QEvent::KeyRelease) {
+    const int tus = static_cast<QKeyEvent*>(e)->key();
+    if (tus == Qt::Key_F3) {
+      if (o == txtKesideci) txtKesideci->setText(SonDeger[Kesideci]);
+      if (o == txtBanka) txtBanka->setText(SonDeger[Banka]);
+      if (o == txtSube) txtSube->setText(SonDeger[Sube]);
+      if (o == txtHesapNo) txtHesapNo->setText(SonDeger[HesapNo]);
+    } else if (tus == Qt::Key_F4 && o == txtKesideci) {
+      txtKesideci->setText(SonDeger[Kesideci]);
+      txtBanka->setText(SonDeger[Banka]);
+      txtSube->setText(SonDeger[Sube]);
+      txtHesapNo->setText(SonDeger[HesapNo]);
+    }
+  }
+  return ekran::Form::eventFilter(o, e);
+}
+
+namespace contract {
+
+void SozlesmeEkraniKaydet() {
+  ekran::Kaydet(QStringLiteral("frmSozles"), [] { return new frmSozles; });
+}
+
+}  // namespace contract

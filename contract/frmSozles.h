@@ -1,0 +1,208 @@
+#pragma once
+// The contract screen: a loan contract with its cheques and notes, entered,
+// browsed, changed, deleted, and sent on to its invoice, print and bordro.
+//
+// It works in one of two modes, fixed when it is loaded from the global
+// Genel::MusteriBazinda: customer by customer (the clerk picks a customer and
+// asks for his contracts) or over all contracts in date order.
+//
+// rsSozlesme holds the keys of the contracts that navigation moves over, in
+// their order; the record on show is read from the table each time it is
+// shown, so that a set of a few hundred thousand contracts opens at once and a
+// save needs no reload unless the order of the set changed.
+//
+// Commands of other screens it opens when they are there: "frmFatura" (the
+// invoice dialog) and "SozlesmeYazdir" (the contract print), each either a
+// registered command (ekran::KomutKaydet) or a registered screen
+// (ekran::Kaydet); until then their buttons stay greyed.
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <array>
+#include <optional>
+
+#include "core/Form.h"
+#include "core/Izgara.h"
+#include "db/Kayitlar.h"
+
+namespace contract {
+class MusteriListesi;
+}
+
+class frmSozles : public ekran::Form {
+  Q_OBJECT
+
+ public:
+  explicit frmSozles(QWidget* ust = nullptr);
+  ~frmSozles() override;
+
+  static constexpr int kGenislik = 10200;  // twips, for FormOrtala
+  static constexpr int kYukseklik = 7200;
+  // cmbAd takes at most this many customers.
+  static constexpr int kMusteriSiniri = 30002;
+
+  // --- the customer
+  QGroupBox* frmSearch;
+  QLabel* lblSoyadAd;  // "Soyad, Ad:", the one label that stays when the rest hides
+  QComboBox* cmbAd;    // item data: MusteriNo
+  QPushButton *cmdBilgiGoster, *cmdMusDetay;
+  QLineEdit* txtMusteriNo;  // invisible
+  QLineEdit* txtOldSeriNo;  // invisible
+
+  // --- the contract
+  QLineEdit *txtTarih, *txtSozlesmeNo, *txtTutar, *txtFaizTutar, *txtOdenecek;
+  QGroupBox* Frame1;
+  QLineEdit *txtFaizOran, *txtGecikmeOran, *txtIskontoOran;
+  QLineEdit* txtValor;
+  QCheckBox* chkHesapla;
+  QComboBox* cmbDoviz;
+  QLabel *lblFaizGun, *lblToplam;
+  QPushButton* cmdSozNoBul;
+
+  // --- the instrument lines
+  QGroupBox* frmCek;
+  QComboBox* cmbTip;
+  QLineEdit *txtKesideci, *txtBanka, *txtSube, *txtHesapNo, *txtCekNo, *txtVade, *txtGun,
+      *txtMeblag;
+  QPushButton *cmdDetayEkle, *cmdVazgec, *cmdDetaySil, *cmdCekDuzelt;
+  ekran::Izgara* dGridDetay;
+
+  // --- commands
+  QPushButton *cmdNew, *cmdEdit, *cmdSave, *cmdCancel, *cmdsil, *cmdFind, *cmdFatura, *cmdYazdir,
+      *cmdBordro, *cmdFirst, *cmdPrev, *cmdNext, *cmdLast, *cmdExit;
+
+  // --- state
+  qint32 SozlesmeID = 0;  // 0 when the fields were emptied
+  int KayitDurum = 0;     // 0 browse, 1 contract being changed, 2 new contract
+  int DetayDurum = 3;     // 3 a new line is typed, 1 a stored line is changed
+  QString SeriKod;        // series of the contract on show, two characters
+  qint32 EskiSozlesmeNo = 0;
+  qint64 ilaveGun = 0;
+  bool Hesapla = true;
+  QString GunYazisi;
+  double Odenecek = 0;
+  qint64 DetaySayisi = 0;
+  qint32 GirisNo = 0;  // the stored line taken into the entry
+  // The last drawer, bank, branch and account left behind in their fields.
+  enum SonDegerAlani { Kesideci, Banka, Sube, HesapNo };
+  std::array<QString, 4> SonDeger;
+
+  // Keys (SozlesmeID) of the contracts navigation moves over; none until the
+  // customer-bound screen has been asked for a customer's contracts.
+  std::optional<db::Kayitlar> rsSozlesme;
+  db::Kayitlar rsDetay;    // lines of the contract on show, bound to dGridDetay
+  db::Kayitlar rsMusteri;  // customers behind cmbAd, in number order
+
+  // The mode the screen was loaded in.
+  bool MusteriBazinda() const { return musteriBazinda_; }
+  // An amount as the grid and the entry show it: groups, two decimals, no
+  // leading zero (,50).
+  static QString MeblagYazisi(double deger);
+
+  void Form_Load() override;
+
+  // --- routines
+  void Goster();
+  void bosalt();
+  void BilgiBul();
+  void KontrolText(bool Durum);
+  void KontrolButon(const QString& Mod);
+  void Gorunum(bool Durum);
+  void MusteriBul();
+  void SozNoBul();
+  bool SozlesmeKaydet();
+  qint32 YeniSozlesmeID();
+  void TutarHesap();
+  void HesaplaKilit();
+  void CekBosalt();
+
+  // --- handlers of the contract
+  void cmbAd_GotFocus();
+  bool cmbAd_Validate();  // false keeps the focus in cmbAd
+  void cmdBilgiGoster_Click();
+  void cmdMusDetay_Click();
+  void cmdNew_Click();
+  void cmdSozNoBul_Click();
+  void cmdEdit_Click();
+  void cmdSave_Click();
+  void cmdCancel_Click();
+  void cmdsil_Click();
+  void cmdFirst_Click();
+  void cmdPrev_Click();
+  void cmdNext_Click();
+  void cmdLast_Click();
+  void cmdFind_Click();
+  void cmdFatura_Click();
+  void cmdYazdir_Click();
+  void cmdBordro_Click();
+  void cmdExit_Click();
+  void chkHesapla_Click();
+  bool txtTarih_Validate();
+  bool txtValor_Validate();
+
+  // --- handlers of the lines
+  void cmbTip_Click();
+  void cmbTip_LostFocus();
+  void cmdDetayEkle_Click();
+  void dGridDetay_DblClick();
+  void cmdCekDuzelt_Click();
+  void cmdDetaySil_Click();
+  void cmdVazgec_Click();
+
+ protected:
+  void Form_Unload() override;
+  bool eventFilter(QObject* o, QEvent* e) override;
+
+ private:
+  void Kur();
+  void KurDavranis();
+  void MusteriDoldur();
+  // Reads the contract at the current position of rsSozlesme; empty when
+  // there is none or its row is gone.
+  db::Kayitlar KayitOku() const;
+  // Moves rsSozlesme to the contract of that key; false (at EOF) if missing.
+  bool SozlesmeyeGit(qint32 id);
+  // The entry of cmbAd the clerk picked or typed; -1 for none.
+  int SeciliMusteri() const;
+  // True, after its message, when the contract on show has an invoice.
+  bool FaturaVar();
+  bool AlanKontrol(QLineEdit* kutu, bool Meblag);
+  void OranKontrol(QLineEdit* kutu);
+  bool KomutHazir(const QString& ad) const;
+  // A leave check runs only when the clerk leaves a field, not when the
+  // screen disables or hides the field that holds the focus.
+  static bool Ayriliyor(QWidget* w);
+  // "Is numeric" of the checks: a number by the regional rules, with a digit.
+  static bool SayiMi(const QString& metin);
+  // What a refused write shows before the reason.
+  static QString HataMetni();
+
+  // --- lines
+  // Opens rsDetay with the grid's query for the contract on show.
+  void DetayAc();
+  // Opens rsDetay with all columns of the contract's lines.
+  void DetayDuzAc();
+  void DetayBagla();
+  // Takes the current row of rsDetay into the entry fields.
+  void SatiriAl();
+  // The checks of cmdDetayEkle in order; false after the message.
+  bool DetayKontrol();
+  // Writes the line of the entry (insert or update).
+  void DetayYaz();
+
+  contract::MusteriListesi* musteriler_;
+  QList<QLabel*> etiketler_;
+  bool musteriBazinda_ = false;
+  // Sort key of the contract on show as it was read, to tell whether a save
+  // moved it within rsSozlesme.
+  QVariant okunanTarih_, okunanNo_, okunanMusteri_;
+};
+
+namespace contract {
+// Registers frmSozles for the main window.
+void SozlesmeEkraniKaydet();
+}  // namespace contract

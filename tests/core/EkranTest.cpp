@@ -1,0 +1,87 @@
+// The leave-field check and the key filters, driven by real focus and keys.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "core/Ekran.h"
+#include "tests/support/Ortam.h"
+
+namespace {
+
+struct Pencere {
+  QWidget w;
+  QLineEdit* alan = new QLineEdit;
+  QLineEdit* diger = new QLineEdit;
+  QPushButton* kaydet = new QPushButton(QStringLiteral("&Kaydet"));
+  QPushButton* vazgec = new QPushButton(QStringLiteral("Vazgeç"));
+  int kaydetSayisi = 0, vazgecSayisi = 0;
+
+  Pencere() {
+    auto* l = new QVBoxLayout(&w);
+    for (QWidget* c : {static_cast<QWidget*>(alan), static_cast<QWidget*>(diger),
+                       static_cast<QWidget*>(kaydet), static_cast<QWidget*>(vazgec)})
+      l->addWidget(c);
+    QObject::connect(kaydet, &QPushButton::clicked, [this] { ++kaydetSayisi; });
+    QObject::connect(vazgec, &QPushButton::clicked, [this] { ++vazgecSayisi; });
+    ekran::AyrilirkenKontrol(alan, [this] { return alan->text() != QStringLiteral("0"); });
+    ekran::KontrolTetiklemez(vazgec);
+    w.show();
+    QApplication::setActiveWindow(&w);
+    test::Isle();
+    alan->setFocus();
+    test::Isle();
+  }
+};
+
+TEST(Ekran, AyrilmaKontroluOdagiTutarVeTiklamayiDusurur) {
+  Pencere p;
+  p.alan->setText(QStringLiteral("0"));
+  p.diger->setFocus();  // Tab or a click elsewhere
+  test::Isle();
+  EXPECT_TRUE(p.alan->hasFocus());
+  EXPECT_EQ(p.alan->selectedText(), QStringLiteral("0"));
+
+  QTest::mouseClick(p.kaydet, Qt::LeftButton);
+  test::Isle();
+  EXPECT_EQ(p.kaydetSayisi, 0);
+  EXPECT_TRUE(p.alan->hasFocus());
+
+  // A cancel button is let through without the check.
+  QTest::mouseClick(p.vazgec, Qt::LeftButton);
+  EXPECT_EQ(p.vazgecSayisi, 1);
+
+  p.alan->setFocus();
+  p.alan->setText(QStringLiteral("5"));
+  QTest::mouseClick(p.kaydet, Qt::LeftButton);
+  EXPECT_EQ(p.kaydetSayisi, 1);
+}
+
+// Typed characters, Turkish letters included, as the keyboard sends them.
+void Yaz(QLineEdit* kutu, const QString& metin) {
+  for (QChar c : metin) {
+    QKeyEvent basildi(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
+    QApplication::sendEvent(kutu, &basildi);
+  }
+}
+
+TEST(Ekran, TusSuzgecleri) {
+  QLineEdit buyuk, sayi, tarih;
+  ekran::BuyukHarfKur(&buyuk);
+  ekran::SayiTusuKur(&sayi);
+  ekran::TarihKutusuKur(&tarih);
+  Yaz(&buyuk, QStringLiteral("iışğ a"));
+  EXPECT_EQ(buyuk.text(), QStringLiteral("İIŞĞ A"));
+  Yaz(&sayi, QStringLiteral("1a2.3,4-x"));
+  EXPECT_EQ(sayi.text(), QStringLiteral("12.3,4"));
+  tarih.setText(QStringLiteral("31.12.2005"));
+  QTest::keyClick(&tarih, Qt::Key_Escape);
+  EXPECT_TRUE(tarih.text().isEmpty());
+}
+
+}  // namespace
