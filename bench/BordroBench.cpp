@@ -28,47 +28,15 @@
 #include "core/Mesaj.h"
 #include "db/Kayitlar.h"
 
+#include "bench/Olcum.h"
+
 namespace {
 
-double CpuMs() {
-  timespec t{};
-  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &t);
-  return t.tv_sec * 1e3 + t.tv_nsec / 1e6;
-}
+using olcum::Isle;
+using olcum::Olc;
+using olcum::Olcum;
+using olcum::Yaz;
 
-struct Olcum {
-  double duvar, cpu;
-};
-
-// Runs `olc` `kez` times; the medians.
-Olcum Olc(int kez, const std::function<void(int)>& olc) {
-  std::vector<double> duvar, cpu;
-  for (int i = 0; i < kez; ++i) {
-    QElapsedTimer t;
-    const double c0 = CpuMs();
-    t.start();
-    olc(i);
-    duvar.push_back(t.nsecsElapsed() / 1e6);
-    cpu.push_back(CpuMs() - c0);
-  }
-  const auto orta = [](std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-  };
-  return {orta(duvar), orta(cpu)};
-}
-
-void Satir(const char* ad, const Olcum& o, double hedef = 0) {
-  if (hedef > 0)
-    std::printf("%-46s %9.2f %9.2f   < %5.0f  %s\n", ad, o.duvar, o.cpu, hedef,
-                o.duvar < hedef ? "tamam" : (o.cpu < hedef ? "yük altında aşıldı" : "AŞILDI"));
-  else
-    std::printf("  %-44s %9.2f %9.2f\n", ad, o.duvar, o.cpu);
-}
-
-void Isle() {
-  for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
-}
 
 contract::BordroEtiketleri Etiketler() {
   contract::BordroEtiketleri e;
@@ -128,23 +96,23 @@ int main(int argc, char** argv) {
   Genel::Baglanti.Kapat();
   Genel::Baglanti.YenidenAc();
   std::printf("\n%-46s %9s %9s   %7s\n", "", "duvar ms", "cpu ms", "hedef");
-  Satir("açılıştan sonra ilk bordro (veri + düzen)",
+  Yaz("açılıştan sonra ilk bordro (veri + düzen)",
         Olc(1, [&](int) { contract::rptBordro(contract::BordroVerisi(rastgele[0]), Etiketler()); }),
         100);
 
   const contract::BordroEtiketleri e = Etiketler();
-  Satir(
+  Yaz(
       "rastgele sözleşmenin bordrosu (veri + düzen)",
       Olc(41,
           [&](int i) { contract::rptBordro(contract::BordroVerisi(rastgele[std::size_t(i)]), e); }),
       100);
-  Satir("BordroVerisi", Olc(41, [&](int i) { contract::BordroVerisi(rastgele[std::size_t(i)]); }));
+  Yaz("BordroVerisi", Olc(41, [&](int i) { contract::BordroVerisi(rastgele[std::size_t(i)]); }));
   std::printf("  (%d satırlı sözleşme %lld)\n", doluSatir, dolu);
-  Satir("dolu sözleşmenin bordrosu (veri + düzen)",
+  Yaz("dolu sözleşmenin bordrosu (veri + düzen)",
         Olc(41, [&](int) { contract::rptBordro(contract::BordroVerisi(dolu), e); }), 100);
   {
     const contract::Bordro veri = contract::BordroVerisi(dolu);
-    Satir("rptBordro", Olc(41, [&](int) { contract::rptBordro(veri, e); }));
+    Yaz("rptBordro", Olc(41, [&](int) { contract::rptBordro(veri, e); }));
     // The figures must be those the contract was saved with.
     const double saklanan = Genel::Baglanti
                                 .Deger(QStringLiteral("SELECT FaizTutar FROM Sozlesme "
@@ -153,7 +121,7 @@ int main(int argc, char** argv) {
                                 .toDouble();
     std::printf("  (faiz toplamı %.6f, saklanan FaizTutar %.6f)\n", veri.ToplamFaiz, saklanan);
   }
-  Satir("önizleme penceresi, sayfa çizilmiş", Olc(9, [&](int) {
+  Yaz("önizleme penceresi, sayfa çizilmiş", Olc(9, [&](int) {
           rapor::RaporPenceresi* p = contract::BordroGoster(dolu, e);
           Isle();
           p->close();

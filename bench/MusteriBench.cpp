@@ -27,48 +27,15 @@
 #include "master/frmBul.h"
 #include "master/frmMusteri.h"
 
+#include "bench/Olcum.h"
+
 namespace {
 
-double CpuMs() {
-  timespec t{};
-  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &t);
-  return t.tv_sec * 1e3 + t.tv_nsec / 1e6;
-}
+using olcum::Isle;
+using olcum::Olc;
+using olcum::Olcum;
+using olcum::Yaz;
 
-struct Olcum {
-  double duvar, cpu;
-};
-
-// Runs `hazirla` untimed, then `olc` timed, `kez` times; the medians.
-Olcum Olc(int kez, const std::function<void(int)>& hazirla, const std::function<void(int)>& olc) {
-  std::vector<double> duvar, cpu;
-  for (int i = 0; i < kez; ++i) {
-    if (hazirla) hazirla(i);
-    QElapsedTimer t;
-    const double c0 = CpuMs();
-    t.start();
-    olc(i);
-    duvar.push_back(t.nsecsElapsed() / 1e6);
-    cpu.push_back(CpuMs() - c0);
-  }
-  const auto orta = [](std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-  };
-  return {orta(duvar), orta(cpu)};
-}
-
-void Satir(const char* ad, const Olcum& o, double hedef = 0) {
-  if (hedef > 0)
-    std::printf("%-46s %9.1f %9.1f   < %5.0f  %s\n", ad, o.duvar, o.cpu, hedef,
-                o.duvar < hedef ? "tamam" : (o.cpu < hedef ? "yük altında aşıldı" : "AŞILDI"));
-  else
-    std::printf("  %-44s %9.1f %9.1f\n", ad, o.duvar, o.cpu);
-}
-
-void Isle() {
-  for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
-}
 
 }  // namespace
 
@@ -101,18 +68,18 @@ int main(int argc, char** argv) {
     static_cast<frmMusteri*>(w)->Kapat();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   });
-  Satir("frmMusteri açılışı (iki liste ile)", acilis, 1000);
+  Yaz("frmMusteri açılışı (iki liste ile)", acilis, 1000);
 
   frmMusteri f;
   f.show();
   f.Form_Load();
   Isle();
   std::printf("  (cmbNo %d, cmbAd %d kayıt)\n", f.cmbNo->count(), f.cmbAd->count());
-  Satir("rsMusteri sorgusu", Olc(5, nullptr, [&f](int) { f.rsMusteri.Requery(); }));
-  Satir("ComboDoldur",
+  Yaz("rsMusteri sorgusu", Olc(5, nullptr, [&f](int) { f.rsMusteri.Requery(); }));
+  Yaz("ComboDoldur",
         Olc(
             5, [&f](int) { f.rsMusteri.MoveFirst(); }, [&f](int) { f.ComboDoldur(); }));
-  Satir("  isimlerin sorgusu", Olc(5, nullptr, [&f](int) {
+  Yaz("  isimlerin sorgusu", Olc(5, nullptr, [&f](int) {
           Genel::Baglanti.Sorgu(
               QStringLiteral("SELECT MusteriNo, HukukiDurum, Soyadi, Adi FROM Musteri "
                              "WHERE MusteriNo >= ? ORDER BY MusteriNo LIMIT ?"),
@@ -121,7 +88,7 @@ int main(int argc, char** argv) {
   {
     QStringList adlar;
     for (int i = 0; i < f.cmbAd->count(); ++i) adlar << f.cmbAd->itemText(i);
-    Satir("  isimlerin Türkçe sıralanması",
+    Yaz("  isimlerin Türkçe sıralanması",
           Olc(
               5, [&adlar](int) { std::reverse(adlar.begin(), adlar.end()); },
               [adlar](int) mutable {
@@ -131,7 +98,7 @@ int main(int argc, char** argv) {
                                  });
               }));
   }
-  Satir("Goster", Olc(
+  Yaz("Goster", Olc(
                       9, [&f](int i) { f.rsMusteri.Move(i * 1000); }, [&f](int) { f.Goster(); }));
 
   // --- a name search with about ten thousand hits, shown in the grid
@@ -144,23 +111,23 @@ int main(int argc, char** argv) {
       b.cmdAra_Click();
       Isle();
     });
-    Satir("frmBul ad araması (gösterilen dahil)", arama, 300);
+    Yaz("frmBul ad araması (gösterilen dahil)", arama, 300);
     std::printf("  (%d kayıt: %s)\n", b.rsBulunan.RecordCount(),
                 b.lblcount->text().toUtf8().constData());
     const QString desen = frmBul::Desen(QStringLiteral("YILMAZ"), true);
-    Satir("sorgu: like + sıralama", Olc(5, nullptr, [&desen](int) {
+    Yaz("sorgu: like + sıralama", Olc(5, nullptr, [&desen](int) {
             Genel::Baglanti.Sorgu(
                 QStringLiteral("SELECT MusteriNo, Bulunacak AS AdSoyad FROM MusteriQry WHERE "
                                "Bulunacak LIKE ? ESCAPE '\\' ORDER BY Bulunacak COLLATE TURKCE"),
                 {desen});
           }));
-    Satir("sorgu: like, sırasız", Olc(5, nullptr, [&desen](int) {
+    Yaz("sorgu: like, sırasız", Olc(5, nullptr, [&desen](int) {
             Genel::Baglanti.Sorgu(
                 QStringLiteral("SELECT MusteriNo, Bulunacak AS AdSoyad FROM MusteriQry WHERE "
                                "Bulunacak LIKE ? ESCAPE '\\'"),
                 {desen});
           }));
-    Satir("sorgu: like yerine instr (karşılaştırma)", Olc(5, nullptr, [](int) {
+    Yaz("sorgu: like yerine instr (karşılaştırma)", Olc(5, nullptr, [](int) {
             Genel::Baglanti.Sorgu(
                 QStringLiteral("SELECT MusteriNo, Bulunacak AS AdSoyad FROM MusteriQry WHERE "
                                "instr(Bulunacak, 'YILMAZ') > 0"));
@@ -171,7 +138,7 @@ int main(int argc, char** argv) {
       b.cmdAra_Click();
       Isle();
     });
-    Satir("frmBul baştan ad araması", bas);
+    Yaz("frmBul baştan ad araması", bas);
     std::printf("  (%d kayıt)\n", b.rsBulunan.RecordCount());
     b.cmbKriter->setCurrentIndex(1);
     b.chkAraTip->setChecked(true);
@@ -180,7 +147,7 @@ int main(int argc, char** argv) {
       b.cmdAra_Click();
       Isle();
     });
-    Satir("frmBul adres araması, içinde", adres);
+    Yaz("frmBul adres araması, içinde", adres);
     std::printf("  (%d kayıt)\n", b.rsBulunan.RecordCount());
   }
 
@@ -196,7 +163,7 @@ int main(int argc, char** argv) {
   const Olcum kaydet = Olc(
       21, duzenle([&f](int i) { f.txtAdres->setText(QStringLiteral("Gül Sok. No:%1").arg(i)); }),
       [&f](int) { f.cmdSave_Click(); });
-  Satir("cmdSave, değişen adres", kaydet, 50);
+  Yaz("cmdSave, değişen adres", kaydet, 50);
   const Olcum kaydetAd =
       Olc(21, duzenle([&f](int i) {
             // A name nobody else has, so that the duplicate test lets it through.
@@ -204,14 +171,14 @@ int main(int argc, char** argv) {
             f.txtBabaAdi->setText(QStringLiteral("NURETTİN %1").arg(i));
           }),
           [&f](int) { f.cmdSave_Click(); });
-  Satir("cmdSave, değişen ad (liste yeri değişir)", kaydetAd, 50);
-  Satir("  çift isim sorgusu", Olc(21, nullptr, [](int i) {
+  Yaz("cmdSave, değişen ad (liste yeri değişir)", kaydetAd, 50);
+  Yaz("  çift isim sorgusu", Olc(21, nullptr, [](int i) {
           Genel::Baglanti.Deger(QStringLiteral("SELECT MusteriNo FROM Musteri WHERE Aranacak = ?"),
                                 {QStringLiteral("YILMAZALİ%1").arg(i)});
         }));
   const qint64 gecici = aralik.son + 1000;
   Genel::Baglanti.Calistir(QStringLiteral("INSERT INTO Musteri(MusteriNo) VALUES (?)"), {gecici});
-  Satir("  silme + ekleme, tek işlemde", Olc(21, nullptr, [gecici](int) {
+  Yaz("  silme + ekleme, tek işlemde", Olc(21, nullptr, [gecici](int) {
           db::Islem islem(Genel::Baglanti);
           Genel::Baglanti.Calistir(QStringLiteral("DELETE FROM Musteri WHERE MusteriNo = ?"),
                                    {gecici});
@@ -219,7 +186,7 @@ int main(int argc, char** argv) {
                                    {gecici});
           islem.Onayla();
         }));
-  Satir("  Goster", Olc(21, nullptr, [&f](int) { f.Goster(); }));
+  Yaz("  Goster", Olc(21, nullptr, [&f](int) { f.Goster(); }));
 
   std::printf("\n%s\n", mesajSayisi ? "UYARI: beklenmeyen mesajlar gösterildi" : "");
   f.close();

@@ -32,56 +32,19 @@
 #include "core/Mesaj.h"
 #include "db/Kayitlar.h"
 
+#include "bench/Olcum.h"
+
 namespace {
+
+using olcum::Isle;
+using olcum::Olc;
+using olcum::Olcum;
+using olcum::Yaz;
 
 constexpr int kMusteri = 20000;
 constexpr int kSozlesme = 300000;
 constexpr qint64 kSatir = 2000000;
 
-double CpuMs() {
-  timespec t{};
-  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &t);
-  return t.tv_sec * 1e3 + t.tv_nsec / 1e6;
-}
-
-struct Olcum {
-  double duvar, cpu, enCok;
-};
-
-// Runs `hazirla` untimed, then `olc` timed, `kez` times: the medians and the
-// slowest run.
-Olcum Olc(int kez, const std::function<void(int)>& hazirla, const std::function<void(int)>& olc) {
-  std::vector<double> duvar, cpu;
-  for (int i = 0; i < kez; ++i) {
-    if (hazirla) hazirla(i);
-    QElapsedTimer t;
-    const double c0 = CpuMs();
-    t.start();
-    olc(i);
-    duvar.push_back(t.nsecsElapsed() / 1e6);
-    cpu.push_back(CpuMs() - c0);
-  }
-  const auto orta = [](std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-  };
-  return {orta(duvar), orta(cpu), *std::max_element(duvar.begin(), duvar.end())};
-}
-
-// One row of the table; names are padded by letters, not by bytes.
-void Yaz(const char* ad, const Olcum& o, double hedef = 0) {
-  const QString girinti = hedef > 0 ? QString() : QStringLiteral("  ");
-  const QByteArray baslik = (girinti + QString::fromUtf8(ad)).leftJustified(44).toUtf8();
-  std::printf("%s %9.1f %9.1f %9.1f", baslik.constData(), o.duvar, o.cpu, o.enCok);
-  if (hedef > 0)
-    std::printf("   < %5.0f  %s", hedef,
-                o.duvar < hedef ? "tamam" : (o.cpu < hedef ? "yük altında aşıldı" : "AŞILDI"));
-  std::printf("\n");
-}
-
-void Isle() {
-  for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
-}
 
 qint64 Sayi(const char* sql) {
   return Genel::Baglanti.Deger(QString::fromLatin1(sql)).toLongLong();
