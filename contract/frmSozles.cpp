@@ -611,10 +611,6 @@ void frmSozles::KontrolText(bool Durum) {
   if (!musteriBazinda_) cmbAd->setEnabled(false);
 }
 
-bool frmSozles::KomutHazir(const QString& ad) const {
-  return ekran::KomutVar(ad) || ekran::KayitliMi(ad);
-}
-
 void frmSozles::KontrolButon(const QString& Mod) {
   const bool normal = Mod == QLatin1String("Normal");
   const bool duzen = Mod == QLatin1String("Edit");
@@ -624,8 +620,8 @@ void frmSozles::KontrolButon(const QString& Mod) {
   cmdNew->setEnabled(normal || bos);
   for (QWidget* w : {cmdSave, cmdCancel, cmdDetayEkle, cmdVazgec}) w->setEnabled(duzen);
   // Their screens may not be there yet.
-  cmdFatura->setEnabled(normal && KomutHazir(QStringLiteral("frmFatura")));
-  cmdYazdir->setEnabled(normal && KomutHazir(QStringLiteral("SozlesmeYazdir")));
+  cmdFatura->setEnabled(normal && ekran::Hazir(QStringLiteral("frmFatura")));
+  cmdYazdir->setEnabled(normal && ekran::Hazir(QStringLiteral("SozlesmeYazdir")));
   if (normal) cmdSozNoBul->setEnabled(false);
   cmdMusDetay->setEnabled(normal || duzen);
   Gorunum(!bos);
@@ -803,21 +799,9 @@ void frmSozles::cmdFind_Click() {
 
 // --- other screens
 
-void frmSozles::cmdFatura_Click() {
-  const QString ad = QStringLiteral("frmFatura");
-  if (ekran::KomutVar(ad))
-    ekran::KomutCalistir(ad);
-  else if (ekran::KayitliMi(ad))
-    ekran::Ac(ad);
-}
+void frmSozles::cmdFatura_Click() { ekran::AcVeyaCalistir(QStringLiteral("frmFatura")); }
 
-void frmSozles::cmdYazdir_Click() {
-  const QString ad = QStringLiteral("SozlesmeYazdir");
-  if (ekran::KomutVar(ad))
-    ekran::KomutCalistir(ad);
-  else if (ekran::KayitliMi(ad))
-    ekran::Ac(ad);
-}
+void frmSozles::cmdYazdir_Click() { ekran::AcVeyaCalistir(QStringLiteral("SozlesmeYazdir")); }
 
 void frmSozles::cmdBordro_Click() {
   contract::BordroEtiketleri e;

@@ -172,7 +172,6 @@ class frmSozles : public ekran::Form {
   bool FaturaVar();
   bool AlanKontrol(QLineEdit* kutu, bool Meblag);
   void OranKontrol(QLineEdit* kutu);
-  bool KomutHazir(const QString& ad) const;
   // A leave check runs only when the clerk leaves a field, not when the
   // screen disables or hides the field that holds the focus.
   static bool Ayriliyor(QWidget* w);

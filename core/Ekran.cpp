@@ -311,6 +311,15 @@ void KomutCalistir(const QString& ad) {
   if (it != K().komut.end()) it.value()();
 }
 
+bool Hazir(const QString& ad) { return KomutVar(ad) || KayitliMi(ad); }
+
+void AcVeyaCalistir(const QString& ad) {
+  if (KomutVar(ad))
+    KomutCalistir(ad);
+  else
+    Ac(ad);
+}
+
 void YerlestiriciKur(Yerlestirici y, std::function<QWidget*()> anaPencere) {
   K().yerlestir = std::move(y);
   K().ana = std::move(anaPencere);

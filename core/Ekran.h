@@ -71,6 +71,10 @@ QWidget* Acik(const QString& ad);
 void KomutKaydet(const QString& ad, std::function<void()> komut);
 bool KomutVar(const QString& ad);
 void KomutCalistir(const QString& ad);
+// A name that stands for a command or a screen: whether it exists, and
+// carrying it out (the command runs, the screen opens).
+bool Hazir(const QString& ad);
+void AcVeyaCalistir(const QString& ad);
 
 // Where child screens live; set by the main window, a plain top-level window
 // when there is none (tests).

@@ -184,12 +184,7 @@ QAction* frmMain::Ekle(QMenu* menu, const char* ad, const QString& baslik, const
   QAction* a = menu->addAction(baslik);
   a->setObjectName(QString::fromLatin1(ad));
   hedef_[a] = hedef;
-  connect(a, &QAction::triggered, this, [hedef] {
-    if (ekran::KomutVar(hedef))
-      ekran::KomutCalistir(hedef);
-    else
-      ekran::Ac(hedef);
-  });
+  connect(a, &QAction::triggered, this, [hedef] { ekran::AcVeyaCalistir(hedef); });
   return a;
 }
 
@@ -203,8 +198,7 @@ QAction* frmMain::Ekle(QMenu* menu, const char* ad, const QString& baslik,
 
 void frmMain::MenuDurumu() {
   for (auto it = hedef_.begin(); it != hedef_.end(); ++it) {
-    const bool var = ekran::KayitliMi(it.value()) || ekran::KomutVar(it.value());
-    it.key()->setEnabled(var && !kapali_.contains(it.key()));
+    it.key()->setEnabled(ekran::Hazir(it.value()) && !kapali_.contains(it.key()));
   }
 }
 
