@@ -95,7 +95,7 @@ int main(int argc, char** argv) {
   // The first bordro after the file was opened, with the engine's cache empty.
   Genel::Baglanti.Kapat();
   Genel::Baglanti.YenidenAc();
-  std::printf("\n%-46s %9s %9s   %7s\n", "", "duvar ms", "cpu ms", "hedef");
+  olcum::Baslik();
   Yaz("açılıştan sonra ilk bordro (veri + düzen)",
         Olc(1, [&](int) { contract::rptBordro(contract::BordroVerisi(rastgele[0]), Etiketler()); }),
         100);

@@ -58,7 +58,7 @@ int main(int argc, char** argv) {
   const bench::Uretec::Aralik aralik = uretec.Musteriler(musteriSayisi);
   std::printf("%d müşteri üretildi (%lld..%lld): %lld ms\n\n", aralik.adet, aralik.ilk, aralik.son,
               t.elapsed());
-  std::printf("%-46s %9s %9s   %7s\n", "", "duvar ms", "cpu ms", "hedef");
+  olcum::Baslik();
 
   // --- opening the register, both lists filled and the first customer shown
   master::MusteriEkranlariKaydet();

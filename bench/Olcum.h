@@ -59,6 +59,11 @@ inline void Yaz(const char* ad, const Olcum& o, double hedef = 0) {
   std::printf("\n");
 }
 
+// The head of the table that Yaz() fills.
+inline void Baslik() {
+  std::printf("\n%-44s %9s %9s %9s   %7s\n", "", "duvar ms", "cpu ms", "en çok", "hedef");
+}
+
 inline void Isle() {
   for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
 }

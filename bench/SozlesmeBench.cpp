@@ -111,7 +111,7 @@ int main(int argc, char** argv) {
               Sayi("SELECT count(*) FROM Musteri"), Sayi("SELECT count(*) FROM Sozlesme"),
               Sayi("SELECT count(*) FROM SozlesmeDetay"), Sayi("SELECT count(*) FROM Fatura"),
               t.elapsed());
-  std::printf("%-44s %9s %9s %9s   %7s\n", "", "duvar ms", "cpu ms", "en çok", "hedef");
+  olcum::Baslik();
 
   // --- "Sözleşme (Hepsi)": the screen made, loaded and shown on its first contract
   contract::SozlesmeEkraniKaydet();
