@@ -1,10 +1,11 @@
 #pragma once
-// What the contract screen tests share: customers and contracts put straight
-// into the tables, the screen opened in either mode, and a clerk's hands:
-// typing into a field, picking from a list, pressing a button or a key.
+// What the contract screen tests share: customer 12 (ALİ YILMAZ), contracts
+// and lines put straight into the tables, the screen opened in either mode, a
+// clerk's hands (typing, picking, pressing), and what the screen, the tables
+// and the message boxes hold, each as one text to compare at once.
 
 #include <QApplication>
-#include <QKeyEvent>
+#include <QtTest/QTest>
 #include <memory>
 
 #include "contract/frmSozles.h"
@@ -21,123 +22,161 @@ class SozlesEkran : public Ortam {
     Ortam::SetUp();
     Genel::SozlesmeSeri = QStringLiteral("AB");
     ekran::BekleAnlik(true);
+    Musteri(12, "YILMAZ", "ALİ");
+  }
+
+  static void Calistir(const QString& sql, const QVariantList& deger = {}) {
+    Genel::Baglanti.Calistir(sql, deger);
   }
 
   // A natural person: MusteriQry names him "Adi Soyadi".
   static void Musteri(qint64 no, const QString& soyadi, const QString& adi) {
-    Genel::Baglanti.Calistir(
-        QStringLiteral("INSERT INTO Musteri(MusteriNo, Soyadi, Adi, HukukiDurum, Adres, Ilce, "
-                       "Il_Ad) VALUES (?, ?, ?, 1, 'Atatürk Cad. 5', 'Çankaya', 'Ankara')"),
+    Calistir(
+        "INSERT INTO Musteri(MusteriNo, Soyadi, Adi, HukukiDurum, Adres, Ilce, Il_Ad) "
+        "VALUES (?, ?, ?, 1, 'Atatürk Cad. 5', 'Çankaya', 'Ankara')",
         {no, soyadi, adi});
   }
 
   static void Sozlesme(qint32 id, qint32 no, qint64 musteri, const QString& tarih,
                        const QVariant& faizOran = 5, const QVariant& ilaveGun = 3,
                        const QVariant& hesapla = 1) {
-    Genel::Baglanti.Calistir(
-        QStringLiteral("INSERT INTO Sozlesme(SozlesmeID, SozlesmeSeri, SozlesmeNo, MusteriNo, "
-                       "Tarih, Tutar, FaizOran, GecikmeOran, IskontoOran, FaizTutar, Gun, "
-                       "ilaveGun, Doviz, Hesapla) "
-                       "VALUES (?, 'AB', ?, ?, ?, 0, ?, 2, 1, 0, '0', ?, 'TRL', ?)"),
+    Calistir(
+        "INSERT INTO Sozlesme(SozlesmeID, SozlesmeSeri, SozlesmeNo, MusteriNo, Tarih, Tutar, "
+        "FaizOran, GecikmeOran, IskontoOran, FaizTutar, Gun, ilaveGun, Doviz, Hesapla) "
+        "VALUES (?, 'AB', ?, ?, ?, 0, ?, 2, 1, 0, '0', ?, 'TRL', ?)",
         {id, no, musteri, tarih, faizOran, ilaveGun, hesapla});
   }
 
   static void Satir(qint32 id, const QString& vade, double meblag, int gun = 0,
-                    const QString& cekNo = QStringLiteral("100"),
-                    const QString& kesideci = QStringLiteral("MEHMET KAYA")) {
-    Genel::Baglanti.Calistir(
-        QStringLiteral("INSERT INTO SozlesmeDetay(SozlesmeID, SozlesmeSeri, SozlesmeNo, Tip, "
-                       "Kesideci, Banka, Sube, HesapNo, CekNo, Vadesi, Odenmesi, Gun, Meblag) "
-                       "SELECT ?, 'AB', SozlesmeNo, 'Çek', ?, 'ZİRAAT', 'KIZILAY', '1', ?, ?, ?, "
-                       "?, ? FROM Sozlesme WHERE SozlesmeID = ?"),
+                    const QString& cekNo = "100", const QString& kesideci = "MEHMET KAYA") {
+    Calistir(
+        "INSERT INTO SozlesmeDetay(SozlesmeID, SozlesmeSeri, SozlesmeNo, Tip, Kesideci, "
+        "Banka, Sube, HesapNo, CekNo, Vadesi, Odenmesi, Gun, Meblag) SELECT ?, 'AB', "
+        "SozlesmeNo, 'Çek', ?, 'ZİRAAT', 'KIZILAY', '1', ?, ?, ?, ?, ? FROM Sozlesme "
+        "WHERE SozlesmeID = ?",
         {id, kesideci, cekNo, vade, vade, gun, meblag, id});
   }
 
-  static std::unique_ptr<frmSozles> Ac(bool musteriBazinda) {
+  // The screen, open until the test ends.
+  frmSozles* Ac(bool musteriBazinda) {
     Genel::MusteriBazinda = musteriBazinda;
-    auto f = std::make_unique<frmSozles>();
-    f->show();
-    QApplication::setActiveWindow(f.get());
-    f->activateWindow();
-    f->Form_Load();
+    ekran_ = std::make_unique<frmSozles>();
+    ekran_->show();
+    QApplication::setActiveWindow(ekran_.get());
+    ekran_->Form_Load();
     Isle();
-    return f;
+    return ekran_.get();
   }
+  void TearDown() override {
+    ekran_.reset();
+    Ortam::TearDown();
+  }
+  std::unique_ptr<frmSozles> ekran_;
 
   // Into a field as a clerk types: the focus goes there first, so that the
-  // field left behind runs its check. A null text only visits the field.
+  // field left behind runs its check; a disabled field takes nothing. A null
+  // text only visits the field; a list that takes no typing has it picked.
   static void Yaz(QWidget* alan, const QString& metin) {
     alan->setFocus();
     Isle();
-    if (metin.isNull()) return;
+    if (metin.isNull() || !alan->isEnabled()) return;
     if (auto* kutu = qobject_cast<QLineEdit*>(alan)) kutu->setText(metin);
-    if (auto* liste = qobject_cast<QComboBox*>(alan)) liste->setEditText(metin);
-  }
-
-  // Picks an entry of a list that takes no typing.
-  static void Sec(QComboBox* liste, const QString& metin) {
-    liste->setFocus();
-    Isle();
-    liste->setCurrentIndex(liste->findText(metin));
-    emit liste->activated(liste->currentIndex());
+    if (auto* liste = qobject_cast<QComboBox*>(alan)) {
+      liste->setCurrentText(metin);
+      if (!liste->isEditable()) emit liste->activated(liste->currentIndex());
+    }
   }
 
   // A click: the focus moves to the button first, and a field whose check
   // fails keeps it, and the click is lost.
   static bool Bas(QPushButton* dugme) {
     if (!dugme->isEnabled() || !dugme->isVisible()) return false;
-    dugme->setFocus();
-    Isle();
+    Yaz(dugme, QString());
     if (QApplication::focusWidget() != dugme) return false;
     dugme->click();
     Isle();
     return true;
   }
 
-  static void Tus(QWidget* w, int tus) {
-    QKeyEvent basti(QEvent::KeyPress, tus, Qt::NoModifier);
-    QKeyEvent birakti(QEvent::KeyRelease, tus, Qt::NoModifier);
-    QApplication::sendEvent(w, &basti);
-    QApplication::sendEvent(w, &birakti);
+  // The line entry, in its order, and a line typed into it; a null drawer is
+  // left as the screen put it.
+  static QList<QWidget*> GirisAlanlari(frmSozles* f) {
+    return {f->cmbTip,   f->txtKesideci, f->txtBanka, f->txtSube,   f->txtHesapNo,
+            f->txtCekNo, f->txtVade,     f->txtGun,   f->txtMeblag, f->cmbDoviz};
   }
-
   struct Kalem {
-    QString tip = QStringLiteral("Çek");
-    QString kesideci = QStringLiteral("MEHMET KAYA");
-    QString banka = QStringLiteral("ZİRAAT"), sube = QStringLiteral("KIZILAY"),
-            hesapNo = QStringLiteral("12345"), cekNo = QStringLiteral("A-1001");
-    QString vade, gun = QStringLiteral("0"), meblag;
+    QString tip = "Çek", kesideci = "MEHMET KAYA", banka = "ZİRAAT", sube = "KIZILAY",
+            hesapNo = "12345", cekNo = "A-1001", vade = "04.04.2005", gun = "0", meblag = "100";
   };
-
-  // Types one line into the entry and presses cmdDetayEkle. Fields that a
-  // note disables are skipped, and a null drawer is left as the screen put it.
   static bool KalemGir(frmSozles* f, const Kalem& k) {
-    Sec(f->cmbTip, k.tip);
-    Yaz(f->txtKesideci, k.kesideci);
-    for (auto [kutu, metin] :
-         {std::pair{f->txtBanka, k.banka}, std::pair{f->txtSube, k.sube},
-          std::pair{f->txtHesapNo, k.hesapNo}, std::pair{f->txtCekNo, k.cekNo}})
-      if (kutu->isEnabled()) Yaz(kutu, metin);
-    Yaz(f->txtVade, k.vade);
-    Yaz(f->txtGun, k.gun);
-    Yaz(f->txtMeblag, k.meblag);
+    const QString metinler[] = {k.tip,   k.kesideci, k.banka, k.sube,  k.hesapNo,
+                                k.cekNo, k.vade,     k.gun,   k.meblag};
+    for (int i = 0; i < 9; ++i) Yaz(GirisAlanlari(f)[i], metinler[i]);
     return Bas(f->cmdDetayEkle);
   }
 
-  static db::Kayitlar Sorgu(const QString& sql, const QVariantList& deger = {}) {
-    return Genel::Baglanti.Sorgu(sql, deger);
-  }
-  static QVariant Deger(const QString& sql, const QVariantList& deger = {}) {
-    return Genel::Baglanti.Deger(sql, deger);
+  // The rows of a query: a line each, the fields joined by "|", Null as "NULL".
+  static QString Tablo(const QString& sql) {
+    db::Kayitlar rs = Genel::Baglanti.Sorgu(sql);
+    QStringList satirlar;
+    for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext()) {
+      QStringList alanlar;
+      for (int i = 0; i < rs.AlanSayisi(); ++i)
+        alanlar << (db::NullMu(rs.Fields(i)) ? QStringLiteral("NULL") : rs.Fields(i).toString());
+      satirlar << alanlar.join('|');
+    }
+    return satirlar.join('\n');
   }
 
-  // The text the grid shows in a row under a field of the lines' set.
-  static QString Hucre(frmSozles* f, int satir, const QString& alan) {
-    return f->dGridDetay->Model()->Metin(satir, f->rsDetay.AlanNo(alan));
+  // The stored lines in their order.
+  static QString Satirlar() {
+    return Tablo(
+        "SELECT SozlesmeNo, Tip, Kesideci, Banka, Sube, HesapNo, CekNo, Vadesi, "
+        "Odenmesi, Gun, Meblag FROM SozlesmeDetay ORDER BY GirisNo");
   }
 
-  // The last message, "" when there was none.
-  QString SonMesaj() const { return Mesajlar().isEmpty() ? QString() : Mesajlar().back().metin; }
+  // What the grid shows under a field of the lines' set, row after row.
+  static QString Sutun(frmSozles* f, const QString& alan) {
+    QStringList l;
+    for (int i = 0; i < f->rsDetay.RecordCount(); ++i)
+      l << f->dGridDetay->Model()->Metin(i, f->rsDetay.AlanNo(alan));
+    return l.join('|');
+  }
+
+  // The texts of fields, lists and labels.
+  static QString Metinler(const QList<QWidget*>& alanlar) {
+    QStringList l;
+    for (QWidget* w : alanlar)
+      l << w->property(qobject_cast<QComboBox*>(w) ? "currentText" : "text").toString();
+    return l.join('|');
+  }
+  // The contract's figures; the contract on show and its place in the set.
+  static QString Rakamlar(frmSozles* f) {
+    return Metinler({f->txtTutar, f->txtFaizTutar, f->txtOdenecek, f->lblFaizGun});
+  }
+  static QString Kayit(frmSozles* f) { return Metinler({f->txtSozlesmeNo, f->lblToplam}); }
+  static QString Giris(frmSozles* f) { return Metinler(GirisAlanlari(f)); }
+
+  // The commands the clerk can use, in a fixed order.
+  static QString Etkin(frmSozles* f) {
+    QStringList adlar;
+    for (QWidget* w : std::initializer_list<QWidget*>{
+             f->cmdNew, f->cmdEdit, f->cmdSave, f->cmdsil, f->cmdFind, f->cmdFatura, f->cmdYazdir,
+             f->cmdBordro, f->cmdNext, f->cmdMusDetay, f->cmdDetayEkle, f->cmdCekDuzelt, f->cmbAd,
+             f->txtTarih})
+      if (w->isEnabled()) adlar << w->objectName();
+    return adlar.join(' ');
+  }
+
+  // The messages shown since the last call, one line each: kind, title, text.
+  QString Kutular() {
+    static const char* const tur[] = {"Kritik", "Ünlem", "Bilgi", "Soru", "Düz"};
+    QStringList l;
+    for (const mesaj::Kayit& k : Mesajlar())
+      l << QString::fromUtf8(tur[int(k.tur)]) + ' ' + k.baslik + ": " + k.metin;
+    MesajlariTemizle();
+    return l.join('\n');
+  }
 };
 
 }  // namespace test
