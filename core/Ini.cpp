@@ -72,11 +72,9 @@ int BolumSonu(const QStringList& satirlar, int bas) {
   return i;
 }
 
-}  // namespace
-
-QString IniOku(const QString& Dosya, const QString& Bolum, const QString& Anahtar,
-               const QString& Varsayilan) {
-  const IniMetni m = IniYukle(Dosya);
+// One value from a file already read.
+QString Oku(const IniMetni& m, const QString& Bolum, const QString& Anahtar,
+            const QString& Varsayilan) {
   const int bas = BolumBul(m.satirlar, Bolum);
   if (bas < 0) return Varsayilan;
   const int son = BolumSonu(m.satirlar, bas);
@@ -89,6 +87,13 @@ QString IniOku(const QString& Dosya, const QString& Bolum, const QString& Anahta
     return d.left(kEnUzunDeger);
   }
   return Varsayilan;
+}
+
+}  // namespace
+
+QString IniOku(const QString& Dosya, const QString& Bolum, const QString& Anahtar,
+               const QString& Varsayilan) {
+  return Oku(IniYukle(Dosya), Bolum, Anahtar, Varsayilan);
 }
 
 void IniYaz(const QString& Dosya, const QString& Bolum, const QString& Anahtar,
@@ -169,44 +174,46 @@ int SayiAyari(const QString& metin) {
   return int(x);
 }
 
-int Sayi(const QString& bolum, const QString& anahtar, int varsayilan) {
-  return SayiAyari(IniOku(IniDosya, bolum, anahtar, QString::number(varsayilan)));
+int Sayi(const IniMetni& m, const QString& bolum, const QString& anahtar, int varsayilan) {
+  return SayiAyari(Oku(m, bolum, anahtar, QString::number(varsayilan)));
 }
 
 }  // namespace
 
 void AyarOku() {
+  // The file is read once; each key is then looked up in it.
+  const IniMetni m = IniYukle(IniDosya);
   const QString F = QStringLiteral("Fatura"), H = QStringLiteral("Hesap"),
                 S = QStringLiteral("Sozlesme"), K = QStringLiteral("Koruma");
-  PrinterFatura = IniOku(IniDosya, F, QStringLiteral("Printer"), QStringLiteral("LPT2"));
-  BasBosluk = Sayi(F, QStringLiteral("BasBosluk"), 11);
-  SonBosluk = Sayi(F, QStringLiteral("SonBosluk"), 10);
-  IsimBas = Sayi(F, QStringLiteral("IsimBas"), 24);
-  TarihAtla = Sayi(F, QStringLiteral("TarihAtla"), 4);
-  TarihBas = Sayi(F, QStringLiteral("TarihBas"), 59);
-  VergiAtla = Sayi(F, QStringLiteral("VergiAtla"), 5);
-  VergiBas = Sayi(F, QStringLiteral("VergiBas"), 22);
-  TutarSatirAtla = Sayi(F, QStringLiteral("TutarSatirAtla"), 4);
-  TutarBas = Sayi(F, QStringLiteral("TutarBas"), 58);
-  DetaySatirAtla = Sayi(F, QStringLiteral("DetaySatirAtla"), 9);
-  YeniSayfaAtla = Sayi(F, QStringLiteral("YeniSayfaAtla"), 7);
-  Sayfabasi = Sayi(F, QStringLiteral("Sayfabasi"), 0) > 0;
-  PulBedeli = Sayi(F, QStringLiteral("PulBedeli"), 1) > 0;
+  PrinterFatura = Oku(m, F, QStringLiteral("Printer"), QStringLiteral("LPT2"));
+  BasBosluk = Sayi(m, F, QStringLiteral("BasBosluk"), 11);
+  SonBosluk = Sayi(m, F, QStringLiteral("SonBosluk"), 10);
+  IsimBas = Sayi(m, F, QStringLiteral("IsimBas"), 24);
+  TarihAtla = Sayi(m, F, QStringLiteral("TarihAtla"), 4);
+  TarihBas = Sayi(m, F, QStringLiteral("TarihBas"), 59);
+  VergiAtla = Sayi(m, F, QStringLiteral("VergiAtla"), 5);
+  VergiBas = Sayi(m, F, QStringLiteral("VergiBas"), 22);
+  TutarSatirAtla = Sayi(m, F, QStringLiteral("TutarSatirAtla"), 4);
+  TutarBas = Sayi(m, F, QStringLiteral("TutarBas"), 58);
+  DetaySatirAtla = Sayi(m, F, QStringLiteral("DetaySatirAtla"), 9);
+  YeniSayfaAtla = Sayi(m, F, QStringLiteral("YeniSayfaAtla"), 7);
+  Sayfabasi = Sayi(m, F, QStringLiteral("Sayfabasi"), 0) > 0;
+  PulBedeli = Sayi(m, F, QStringLiteral("PulBedeli"), 1) > 0;
 
-  IlaveGun = Sayi(H, QStringLiteral("IlaveGun"), 3);
-  HaftaSonu = Sayi(H, QStringLiteral("HaftaSonu"), 0) == 1;
+  IlaveGun = Sayi(m, H, QStringLiteral("IlaveGun"), 3);
+  HaftaSonu = Sayi(m, H, QStringLiteral("HaftaSonu"), 0) == 1;
 
-  PrinterSozlesme = IniOku(IniDosya, S, QStringLiteral("Printer"), QStringLiteral("LPT1"));
-  DetayBasBosluk = Sayi(S, QStringLiteral("DetayBasBosluk"), 0);
-  MasrafGoster = Sayi(S, QStringLiteral("MasrafGoster"), 1) > 0;
-  Hesapla = Sayi(S, QStringLiteral("Hesapla"), 1) == 1;
-  OrtalamaGun = Sayi(S, QStringLiteral("OrtalamaGun"), 0) == 1;
-  DetayToplamYaz = Sayi(S, QStringLiteral("DetayToplamYaz"), 1) == 1;
-  DetayLimit = std::max(2, Sayi(S, QStringLiteral("DetayLimit"), 22));
+  PrinterSozlesme = Oku(m, S, QStringLiteral("Printer"), QStringLiteral("LPT1"));
+  DetayBasBosluk = Sayi(m, S, QStringLiteral("DetayBasBosluk"), 0);
+  MasrafGoster = Sayi(m, S, QStringLiteral("MasrafGoster"), 1) > 0;
+  Hesapla = Sayi(m, S, QStringLiteral("Hesapla"), 1) == 1;
+  OrtalamaGun = Sayi(m, S, QStringLiteral("OrtalamaGun"), 0) == 1;
+  DetayToplamYaz = Sayi(m, S, QStringLiteral("DetayToplamYaz"), 1) == 1;
+  DetayLimit = std::max(2, Sayi(m, S, QStringLiteral("DetayLimit"), 22));
 
-  SadeceGoster = Sayi(K, QStringLiteral("SadeceGoster"), 0) > 0;
+  SadeceGoster = Sayi(m, K, QStringLiteral("SadeceGoster"), 0) > 0;
 
-  SahipAdi = IniOku(IniDosya, QStringLiteral("Kurulum"), QStringLiteral("SahipAdi"), QString());
+  SahipAdi = Oku(m, QStringLiteral("Kurulum"), QStringLiteral("SahipAdi"), QString());
 }
 
 int AyarSayisi(const QString& metin) { return SayiAyari(metin); }
