@@ -7,6 +7,7 @@
 #include <string>
 
 #include "core/Genel.h"
+#include "db/Val.h"
 
 namespace faiz {
 
@@ -28,19 +29,14 @@ qint64 Ekle(qint64 a, qint64 b) {
 bool Bosluk(QChar c) { return c == QLatin1Char(' ') || c == QLatin1Char('\t'); }
 bool Rakam(QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); }
 
-// The leading number of a text: leading blanks skipped, an optional sign when
-// `isaretli`, digits with at most one point as decimal point, up to the first
-// other character. 0 when there is none. This is R1 (without a sign) and the
-// Val of the valor and day fields (with one); the comma is never part of it.
-double OndekiSayi(const QString& metin, bool isaretli) {
+// R1: the leading number of a text: leading blanks skipped, digits with at
+// most one point as decimal point, up to the first other character; no sign,
+// and the comma is never part of it. 0 when there is none.
+double R1Sayisi(const QString& metin) {
   std::string s;
   qsizetype i = 0;
   const qsizetype n = metin.size();
   while (i < n && Bosluk(metin[i])) ++i;
-  if (isaretli && i < n && (metin[i] == QLatin1Char('-') || metin[i] == QLatin1Char('+'))) {
-    if (metin[i] == QLatin1Char('-')) s += '-';
-    ++i;
-  }
   bool nokta = false, rakam = false;
   for (; i < n; ++i) {
     const QChar c = metin[i];
@@ -64,7 +60,7 @@ double OndekiSayi(const QString& metin, bool isaretli) {
 
 // Halves to even, as the original's integer conversion did; within the bound.
 qint64 TamSayi(double x) {
-  if (!std::isfinite(x)) return 0;
+  if (std::isnan(x)) return 0;
   x = std::clamp(x, -kSayiSiniri, kSayiSiniri);
   const double alt = std::floor(x);
   const double fark = x - alt;
@@ -228,7 +224,7 @@ std::optional<QString> TutarAlani(const QString& metin, bool Meblag) {
 }
 
 QString OranAlani(const QString& metin) {
-  const double bas = OndekiSayi(metin, false);  // R1
+  const double bas = R1Sayisi(metin);  // R1
   if (!(bas > 0)) return QStringLiteral("0");   // R2
   double v = 0;
   if (Genel::SayiOkuDene(metin, v)) return KisaYaz(v);  // R3
@@ -243,11 +239,11 @@ double OranDegeri(const QString& metin) {
 
 QString GunAlani(const QString& metin) { return metin.isEmpty() ? QStringLiteral("0") : metin; }
 
-qint64 GunOku(const QString& metin) { return TamSayi(OndekiSayi(metin, true)); }
+qint64 GunOku(const QString& metin) { return TamSayi(db::Val(metin)); }
 
 std::optional<qint64> ValorAlani(const QString& metin) {
   if (metin.isEmpty()) return std::nullopt;
-  return TamSayi(OndekiSayi(metin, true)) + 1;
+  return TamSayi(db::Val(metin)) + 1;
 }
 
 QString ValorYazisi(qint64 ilaveGun) { return QString::number(Ekle(ilaveGun, -1)); }

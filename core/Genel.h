@@ -53,7 +53,9 @@ QString IniOku(const QString& Dosya, const QString& Bolum, const QString& Anahta
                const QString& Varsayilan);
 void IniYaz(const QString& Dosya, const QString& Bolum, const QString& Anahtar,
             const QString& Deger);
-void BinlikAyiriciBul();
+// Finds the thousands separator; false when the regional form has none (the
+// start-up tells the clerk, and BinlikAyirici stays empty).
+bool BinlikAyiriciBul();
 void AyarOku();
 // How AyarOku reads a number: its leading number, rounded to a 16-bit integer.
 int AyarSayisi(const QString& metin);

@@ -7,7 +7,7 @@
 #include <cmath>
 
 #include "core/Genel.h"
-#include "core/Mesaj.h"
+#include "db/Val.h"
 
 namespace Genel {
 
@@ -133,7 +133,7 @@ void IniYaz(const QString& Dosya, const QString& Bolum, const QString& Anahtar,
   if (f.commit()) QFile::setPermissions(Dosya, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
 }
 
-void BinlikAyiriciBul() {
+bool BinlikAyiriciBul() {
   // 100000 with the regional group separator, no decimals.
   const QString bicimli = SayiYaz(100000, 0, true);
   BinlikAyirici.clear();
@@ -141,34 +141,14 @@ void BinlikAyiriciBul() {
     BinlikAyirici = QStringLiteral(".");
   else if (bicimli.contains(QLatin1Char(',')))
     BinlikAyirici = QStringLiteral(",");
-  else
-    mesaj::Kritik(QStringLiteral("Bilinmeyen binlik numara ayırıcısı!!"), QStringLiteral("UYARI"));
+  return !BinlikAyirici.isEmpty();
 }
 
 namespace {
 
-// The number at the start of a text, rounded to a 16-bit integer.
+// The number at the start of a text (Val), rounded to a 16-bit integer.
 int SayiAyari(const QString& metin) {
-  const QString t = metin.trimmed();
-  int i = 0;
-  QString s;
-  if (i < t.size() && (t[i] == QLatin1Char('-') || t[i] == QLatin1Char('+'))) s += t[i++];
-  bool nokta = false;
-  for (; i < t.size(); ++i) {
-    const QChar c = t[i];
-    if (c.isDigit() && c.unicode() < 128) {
-      s += c;
-    } else if (c == QLatin1Char('.') && !nokta) {
-      nokta = true;
-      s += c;
-    } else {
-      break;
-    }
-  }
-  bool ok = false;
-  double x = s.toDouble(&ok);
-  if (!ok) return 0;
-  x = std::nearbyint(x);  // to even, as the integer conversion does
+  const double x = std::nearbyint(db::Val(metin));  // to even, as the integer conversion does
   if (x > 32767) return 32767;
   if (x < -32768) return -32768;
   return int(x);

@@ -217,7 +217,8 @@ QString frmMain::Baslik(const QString& firmaAdi) {
 }
 
 bool frmMain::Form_Load() {
-  Genel::BinlikAyiriciBul();
+  if (!Genel::BinlikAyiriciBul())
+    mesaj::Kritik(QStringLiteral("Bilinmeyen binlik numara ayırıcısı!!"), QStringLiteral("UYARI"));
   const QString dizin = Genel::WindowsDizini();
   if (dizin.isEmpty()) {
     mesaj::Kritik(QStringLiteral("Windows Dizini Bulunamadı!!!"), QStringLiteral("ÖNEMLİ HATA"));

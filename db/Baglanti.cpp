@@ -20,6 +20,9 @@ namespace {
 
 QString MotorMetni(sqlite3* db) { return QString::fromUtf8(sqlite3_errmsg(db)); }
 
+// The engine's failure as it stands on the connection: its text and code.
+Hata MotorHatasi(sqlite3* db) { return Hata(MotorMetni(db), sqlite3_extended_errcode(db)); }
+
 // One prepared statement that finalizes itself. Prepares the first statement
 // of [bas, son); kalan() tells where the next one begins. A text holding only
 // blanks or comments gives no statement (bos()).
@@ -27,7 +30,7 @@ class Komut {
  public:
   Komut(sqlite3* db, const char* bas, const char* son) : db_(db), kalan_(son) {
     if (sqlite3_prepare_v2(db, bas, int(son - bas), &st_, &kalan_) != SQLITE_OK)
-      throw Hata(MotorMetni(db));
+      throw MotorHatasi(db);
   }
   ~Komut() { sqlite3_finalize(st_); }
   Komut(const Komut&) = delete;
@@ -48,7 +51,7 @@ class Komut {
     const int rc = sqlite3_step(st_);
     if (rc == SQLITE_ROW) return true;
     if (rc == SQLITE_DONE) return false;
-    throw Hata(MotorMetni(db_));
+    throw MotorHatasi(db_);
   }
 
  private:
@@ -79,7 +82,7 @@ class Komut {
             rc = BaglaMetin(i, v.toString());
       }
     }
-    if (rc != SQLITE_OK) throw Hata(MotorMetni(db_));
+    if (rc != SQLITE_OK) throw MotorHatasi(db_);
   }
   int BaglaMetin(int i, const QString& s) {
     const QByteArray b = s.toUtf8();
@@ -149,10 +152,16 @@ QVariant SutunDegeri(sqlite3_stmt* st, int i) {
 
 }  // namespace
 
+bool Hata::Kilitli() const {
+  return AnaKod() == SQLITE_BUSY || AnaKod() == SQLITE_LOCKED;
+}
+
+bool Hata::KisitIhlali() const { return AnaKod() == SQLITE_CONSTRAINT; }
+
 Baglanti::~Baglanti() { Kapat(); }
 
 void Baglanti::AcikOlmali() const {
-  if (!db_) throw Hata(QStringLiteral("Veri tabanı açık değil"));
+  if (!db_) throw Hata(QStringLiteral("Veri tabanı açık değil"), Hata::kBaglantiYok);
 }
 
 void Baglanti::AcHam(const QString& yol, int bayrak) {
@@ -162,9 +171,9 @@ void Baglanti::AcHam(const QString& yol, int bayrak) {
   // A connection is used by one thread at a time: no locking on every call.
   const int rc = sqlite3_open_v2(ad.constData(), &db, bayrak | SQLITE_OPEN_NOMUTEX, nullptr);
   if (rc != SQLITE_OK) {
-    const QString metin = db ? MotorMetni(db) : QString::fromUtf8(sqlite3_errstr(rc));
+    const Hata h = db ? MotorHatasi(db) : Hata(QString::fromUtf8(sqlite3_errstr(rc)), rc);
     sqlite3_close(db);
-    throw Hata(metin);
+    throw h;
   }
   sqlite3_busy_timeout(db, bekleme_);
   sqlite3_extended_result_codes(db, 1);
@@ -174,7 +183,7 @@ void Baglanti::AcHam(const QString& yol, int bayrak) {
     // the reports) in memory rather than in temporary files.
     if (sqlite3_exec(db, "PRAGMA cache_size = -65536; PRAGMA temp_store = MEMORY", nullptr, nullptr,
                      nullptr) != SQLITE_OK)
-      throw Hata(MotorMetni(db));
+      throw MotorHatasi(db);
   } catch (...) {
     sqlite3_close(db);
     throw;
@@ -195,7 +204,7 @@ void Baglanti::Ac(const QString& yol, Kip kip) {
     // The engine falls back to reading a file it may not write; a program
     // that means to write has to know now, not at its first save.
     if (kip == Kip::YazOku && sqlite3_db_readonly(db_, "main") == 1)
-      throw Hata(QString::fromUtf8(sqlite3_errstr(SQLITE_READONLY)));
+      throw Hata(QString::fromUtf8(sqlite3_errstr(SQLITE_READONLY)), SQLITE_READONLY);
   } catch (...) {
     Kapat();
     throw;
@@ -227,7 +236,7 @@ void Baglanti::Kapat() {
 }
 
 void Baglanti::YenidenAc() {
-  if (yol_.isEmpty()) throw Hata(QStringLiteral("Bağlantı hiç açılmadı"));
+  if (yol_.isEmpty()) throw Hata(QStringLiteral("Bağlantı hiç açılmadı"), Hata::kBaglantiYok);
   Ac(yol_, kip_);
 }
 
@@ -286,7 +295,7 @@ QString Baglanti::HataMetni() const { return db_ ? MotorMetni(db_) : QString(); 
 // Values go straight from the engine into the set's cells; texts are copied
 // as the engine's UTF-8 into one buffer.
 void Kayitlar::Doldur(Baglanti* b, const QString& sql, const QVariantList& deger) {
-  if (!b || !b->Acik()) throw Hata(QStringLiteral("Veri tabanı açık değil"));
+  if (!b || !b->Acik()) throw Hata(QStringLiteral("Veri tabanı açık değil"), Hata::kBaglantiYok);
   Sorgusu s(b->ham(), sql, deger);
   sqlite3_stmt* st = s.k().st();
   const int n = sqlite3_column_count(st);

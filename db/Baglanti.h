@@ -14,14 +14,31 @@ namespace db {
 
 class Kayitlar;
 
-// A failure of the engine; what() and metin() carry the engine's own text.
+// A failure of the engine; what() and metin() carry the engine's own text,
+// kod() its extended result code, so that a caller can tell a file locked by
+// another program from a refused row. Failures found before the engine is
+// asked (no connection, a wrong number of values) carry a code of their own.
 class Hata : public std::runtime_error {
  public:
-  explicit Hata(const QString& metin) : std::runtime_error(metin.toStdString()), metin_(metin) {}
+  enum : int {
+    kProgram = 0,        // not from the engine: a misuse found by this layer
+    kBaglantiYok = -1,   // no open connection
+  };
+  explicit Hata(const QString& metin, int kod = kProgram)
+      : std::runtime_error(metin.toStdString()), metin_(metin), kod_(kod) {}
   const QString& metin() const { return metin_; }
+  int kod() const { return kod_; }
+  // The primary result code (the low byte of the extended one).
+  int AnaKod() const { return kod_ > 0 ? (kod_ & 0xff) : kod_; }
+  // Another program holds the file (busy or locked past the waiting time).
+  bool Kilitli() const;
+  // A constraint refused the row (unique key, not null, check).
+  bool KisitIhlali() const;
+  bool BaglantiYok() const { return kod_ == kBaglantiYok; }
 
  private:
   QString metin_;
+  int kod_;
 };
 
 // Null as it is bound and read back: an invalid QVariant. An invalid QDate or

@@ -7,11 +7,13 @@
 
 #include <QString>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <string>
 #include <vector>
 
 #include "db/Baglanti.h"
+#include "db/Val.h"
 #include "db/Turkce.h"
 
 namespace db {
@@ -115,7 +117,7 @@ bool Artik(int y) { return (y % 4 == 0 && y % 100 != 0) || y % 400 == 0; }
 
 // A stored date, "YYYY-MM-DD" with or without a time behind it, as a day
 // number; false for Null or anything else.
-bool TarihOku(sqlite3_value* v, std::int64_t& gun) {
+bool GunNumarasi(sqlite3_value* v, std::int64_t& gun) {
   if (sqlite3_value_type(v) == SQLITE_NULL) return false;
   const char* p = Metni(v);
   const int n = sqlite3_value_bytes(v);
@@ -135,7 +137,7 @@ bool TarihOku(sqlite3_value* v, std::int64_t& gun) {
 // Weekday(d): 1 for Sunday up to 7 for Saturday.
 void Weekday(sqlite3_context* ctx, int, sqlite3_value** argv) {
   std::int64_t gun;
-  if (!TarihOku(argv[0], gun)) return sqlite3_result_null(ctx);
+  if (!GunNumarasi(argv[0], gun)) return sqlite3_result_null(ctx);
   // 1970-01-01 was a Thursday, the fifth day counted from Sunday.
   sqlite3_result_int(ctx, int(((gun + 4) % 7 + 7) % 7) + 1);
 }
@@ -143,15 +145,13 @@ void Weekday(sqlite3_context* ctx, int, sqlite3_value** argv) {
 // GunFarki(a, b): whole days from a to b, that is b - a.
 void GunFarki(sqlite3_context* ctx, int, sqlite3_value** argv) {
   std::int64_t a, b;
-  if (!TarihOku(argv[0], a) || !TarihOku(argv[1], b)) return sqlite3_result_null(ctx);
+  if (!GunNumarasi(argv[0], a) || !GunNumarasi(argv[1], b)) return sqlite3_result_null(ctx);
   sqlite3_result_int64(ctx, b - a);
 }
 
 // --- Val
 
-// Val(x): the number at the start of a text. Blanks are skipped wherever they
-// stand, "." is the decimal point, reading stops at the first character that
-// can't continue the number; no number gives 0. Integers stay integers.
+// Val(x) of the engine; see ValOku. Integers stay integers.
 void Val(sqlite3_context* ctx, int, sqlite3_value** argv) {
   switch (sqlite3_value_type(argv[0])) {
     case SQLITE_NULL:
@@ -163,8 +163,17 @@ void Val(sqlite3_context* ctx, int, sqlite3_value** argv) {
     default:
       break;
   }
-  const char* p = Metni(argv[0]);
-  const char* const son = p + sqlite3_value_bytes(argv[0]);
+  const ValSonucu v =
+      ValOku(std::string_view(Metni(argv[0]), std::size_t(sqlite3_value_bytes(argv[0]))));
+  if (v.tamSayi) return sqlite3_result_int64(ctx, v.tam);
+  sqlite3_result_double(ctx, v.deger);
+}
+
+}  // namespace
+
+ValSonucu ValOku(std::string_view metin) {
+  const char* p = metin.data();
+  const char* const son = p + metin.size();
   std::string sayi;
   bool isaret = false, rakamVar = false, nokta = false, us = false, usIsareti = false;
   const auto bosluk = [](char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; };
@@ -202,19 +211,30 @@ void Val(sqlite3_context* ctx, int, sqlite3_value** argv) {
       break;
     }
   }
-  if (!rakamVar) return sqlite3_result_int(ctx, 0);
+  ValSonucu r;
+  if (!rakamVar) return r;
+  const char* const bas = sayi.data();
+  const char* const bitis = bas + sayi.size();
   if (!nokta && !us) {
-    std::int64_t tam;
-    const auto [kalan, hata] = std::from_chars(sayi.data(), sayi.data() + sayi.size(), tam);
-    if (hata == std::errc() && kalan == sayi.data() + sayi.size())
-      return sqlite3_result_int64(ctx, tam);
+    const auto [kalan, hata] = std::from_chars(bas, bitis, r.tam);
+    if (hata == std::errc() && kalan == bitis) {
+      r.deger = double(r.tam);
+      return r;
+    }
   }
-  double x = 0;
-  std::from_chars(sayi.data(), sayi.data() + sayi.size(), x);
-  sqlite3_result_double(ctx, x);
+  r.tamSayi = false;
+  r.tam = 0;
+  // from_chars ignores the C locale, which Qt sets from the environment.
+  // A number beyond the range of a double is as large as one gets.
+  if (std::from_chars(bas, bitis, r.deger).ec == std::errc::result_out_of_range)
+    r.deger = sayi[0] == '-' ? -HUGE_VAL : HUGE_VAL;
+  return r;
 }
 
-}  // namespace
+double Val(QStringView metin) {
+  const QByteArray u = metin.toUtf8();
+  return ValOku(std::string_view(u.constData(), std::size_t(u.size()))).deger;
+}
 
 void FonksiyonlariKaydet(sqlite3* db) {
   const int bayrak = SQLITE_UTF8 | SQLITE_DETERMINISTIC;
@@ -232,7 +252,7 @@ void FonksiyonlariKaydet(sqlite3* db) {
     if (rc != SQLITE_OK) break;
     rc = sqlite3_create_function(db, i.ad, i.argc, bayrak, nullptr, i.f, nullptr, nullptr);
   }
-  if (rc != SQLITE_OK) throw Hata(QString::fromUtf8(sqlite3_errmsg(db)));
+  if (rc != SQLITE_OK) throw Hata(QString::fromUtf8(sqlite3_errmsg(db)), rc);
 }
 
 }  // namespace db

@@ -226,10 +226,13 @@ TEST_F(Faiz, OranAlani) {
 TEST_F(Faiz, GunValorVeKilit) {
   EXPECT_EQ(faiz::GunAlani(QString()), u"0");
   EXPECT_EQ(faiz::GunAlani(QStringLiteral("45")), u"45");
-  // The leading number, rounded half to even.
+  // The leading number as Val reads it, rounded half to even; a huge one stops
+  // at the bound of the day counts.
   const std::tuple<const char*, qint64, std::optional<qint64>> ornekler[] = {
-      {"", 0, std::nullopt}, {"abc", 0, 1}, {"999", 999, 1000}, {"1e400", 1, 2},
-      {"-1", -1, 0},         {".5", 0, 1},  {"2", 2, 3}};
+      {"", 0, std::nullopt},  {"abc", 0, 1}, {"999", 999, 1000},
+      {"1e400", 1000000000000000, 1000000000000001},
+      {"-1", -1, 0},          {".5", 0, 1},  {"2", 2, 3},
+      {"1 2", 12, 13},        {"2e1x", 20, 21}};
   for (const auto& [metin, gun, valor] : ornekler) {
     EXPECT_EQ(faiz::GunOku(QString::fromLatin1(metin)), gun) << metin;
     EXPECT_EQ(faiz::ValorAlani(QString::fromLatin1(metin)), valor) << metin;
