@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
+#include <algorithm>
 #include <cmath>
 #include <charconv>
 #include <cstdlib>
@@ -199,51 +200,62 @@ QString SagaDoldur(const QString& s, int genislik) {
   return s + QString(genislik - s.size(), QLatin1Char(' '));
 }
 
+namespace {
+
+// The printer's Turkish letters (code page 857).
+char Cp857Harfi(char16_t c) {
+  switch (c) {
+    case u'ö': return char(148);
+    case u'Ö': return char(153);
+    case u'ü': return char(129);
+    case u'Ü': return char(154);
+    case u'ç': return char(135);
+    case u'Ç': return char(128);
+    case u'ş': return char(159);
+    case u'Ş': return char(158);
+    case u'ğ': return char(167);
+    case u'Ğ': return char(166);
+    case u'ı': return char(141);
+    case u'İ': return char(152);
+    default: return 0;
+  }
+}
+
+// The byte of a character in the Turkish Windows code page (1254), in which
+// the rest of the text goes out; 0 when the page lacks it. The six Turkish
+// letters of the page never get here: they take the printer's codes above.
+char Cp1254Bayti(char16_t c) {
+  if (c < 0x80) return char(c);
+  // 0x80-0x9F: typographic signs; the five bytes the page leaves unassigned
+  // stand for the control characters of the same number.
+  static constexpr char16_t kUst[32] = {
+      0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,  // 80
+      0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x008E, 0x008F,  // 88
+      0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,  // 90
+      0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x009E, 0x0178,  // 98
+  };
+  for (int i = 0; i < 32; ++i)
+    if (kUst[i] == c) return char(0x80 + i);
+  // Latin-1 above 0xA0, but for the six places the Turkish letters take.
+  if (c < 0xA0 || c > 0xFF) return 0;
+  switch (c) {
+    case 0xD0: case 0xDD: case 0xDE: case 0xF0: case 0xFD: case 0xFE: return 0;
+    default: return char(c);
+  }
+}
+
+}  // namespace
+
 QByteArray DosKarakter(const QString& s) {
   QByteArray r;
   r.reserve(s.size());
   for (QChar c : s) {
-    switch (c.unicode()) {
-      case 0x00F6:
-        r += char(148);
-        break;  // ö
-      case 0x00D6:
-        r += char(153);
-        break;  // Ö
-      case 0x00FC:
-        r += char(129);
-        break;  // ü
-      case 0x00DC:
-        r += char(154);
-        break;  // Ü
-      case 0x00E7:
-        r += char(135);
-        break;  // ç
-      case 0x00C7:
-        r += char(128);
-        break;  // Ç
-      case 0x015F:
-        r += char(159);
-        break;  // ş
-      case 0x015E:
-        r += char(158);
-        break;  // Ş
-      case 0x011F:
-        r += char(167);
-        break;  // ğ
-      case 0x011E:
-        r += char(166);
-        break;  // Ğ
-      case 0x0131:
-        r += char(141);
-        break;  // ı
-      case 0x0130:
-        r += char(152);
-        break;  // İ
-      default:
-        // Every other character goes out as its single byte; what has none
-        // becomes a question mark.
-        r += c.unicode() < 256 ? char(c.unicode()) : '?';
+    if (const char b = Cp857Harfi(c.unicode())) {
+      r += b;
+    } else if (const char b = Cp1254Bayti(c.unicode()); b || c.unicode() == 0) {
+      r += b;
+    } else {
+      r += '?';  // the code page has no such character
     }
   }
   return r;
@@ -262,45 +274,63 @@ QString TarihYaz(const QDate& d) {
   return d.isValid() ? d.toString(QStringLiteral("dd.MM.yyyy")) : QString();
 }
 
-QDate TarihOku(const QString& s) {
-  static const QRegularExpression bicim(
-      QStringLiteral("^\\s*(\\d{1,2})[./-](\\d{1,2})[./-](\\d{1,4})\\s*$"));
-  const auto m = bicim.match(s);
-  if (!m.hasMatch()) return QDate();
-  const int gun = m.captured(1).toInt();
-  const int ay = m.captured(2).toInt();
-  const QString yilMetni = m.captured(3);
-  int yil = yilMetni.toInt();
-  if (yilMetni.size() <= 2)
-    yil += yil < 30 ? 2000 : 1900;  // the usual window 1930..2029
-  else if (yilMetni.size() == 3)
-    return QDate();
-  return QDate(yil, ay, gun);
+namespace {
+
+// A year as typed: two digits go into 1930..2029, four stand as they are;
+// one or three digits are no year.
+int YilOku(const QString& yil) {
+  const int y = yil.toInt();
+  if (yil.size() == 2) return y + (y < 30 ? 2000 : 1900);
+  return yil.size() == 4 ? y : 0;
 }
+
+// The regional reader of a typed date: day, month and year with one of ".",
+// "/" or "-" between them, or, when `bugun` is given, day and month with "."
+// or "/" in its year.
+QDate BolgeselTarih(const QString& s, const QDate& bugun) {
+  static const QRegularExpression ucParca(
+      QStringLiteral("^\\s*(\\d{1,2})([./-])(\\d{1,2})\\2(\\d{1,4})\\s*$"));
+  static const QRegularExpression ikiParca(
+      QStringLiteral("^\\s*(\\d{1,2})[./](\\d{1,2})\\s*$"));
+  if (const auto m = ucParca.match(s); m.hasMatch()) {
+    const int yil = YilOku(m.captured(4));
+    return yil ? QDate(yil, m.captured(3).toInt(), m.captured(1).toInt()) : QDate();
+  }
+  if (const auto m = ikiParca.match(s); m.hasMatch() && bugun.isValid())
+    return QDate(bugun.year(), m.captured(2).toInt(), m.captured(1).toInt());
+  return QDate();
+}
+
+bool SadeceRakam(const QString& s) {
+  return !s.isEmpty() && std::all_of(s.begin(), s.end(), [](QChar c) {
+    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+  });
+}
+
+}  // namespace
+
+QDate TarihOku(const QString& s) { return BolgeselTarih(s, QDate()); }
 
 bool TarihTamamla(QString& metin, const QDate& bugun) {
   QString t = metin;
   if (t.isEmpty()) return true;
-  const auto ayiracYok = [](const QString& x) {
-    return !x.contains(QLatin1Char('.')) && !x.contains(QLatin1Char('/'));
+  const auto bolu = [](const QString& x, std::initializer_list<int> yerler) {
+    QString r = x;
+    for (auto it = std::rbegin(yerler); it != std::rend(yerler); ++it)
+      r.insert(*it, QLatin1Char('/'));
+    return r;
   };
   if (t.size() == 5 && t[2] == QLatin1Char('/')) t.remove(QLatin1Char('/'));
-  if (t.size() == 6 && ayiracYok(t))
-    t = t.left(2) + QLatin1Char('/') + t.mid(2, 2) + QLatin1Char('/') + t.mid(4);
-  if (t.size() == 8 && ayiracYok(t))
-    t = t.left(2) + QLatin1Char('/') + t.mid(2, 2) + QLatin1Char('/') + t.mid(4);
-  QDate d = TarihOku(t);
-  if (d.isValid()) {
-    metin = TarihYaz(d);
-    return true;
+  // ddmmyy and ddmmyyyy: only a text of digits is cut into parts.
+  if ((t.size() == 6 || t.size() == 8) && SadeceRakam(t)) t = bolu(t, {2, 4});
+  QDate d = BolgeselTarih(t, bugun);
+  if (!d.isValid()) {
+    if (t.size() == 4 && SadeceRakam(t)) t = bolu(t, {2});  // ddmm
+    d = TarihOku(t + QLatin1Char('/') + QString::number(bugun.year()));
   }
-  if (t.size() == 4) t = t.left(2) + QLatin1Char('/') + t.mid(2);
-  d = TarihOku(t + QLatin1Char('/') + QString::number(bugun.year()));
-  if (d.isValid()) {
-    metin = TarihYaz(d);
-    return true;
-  }
-  return false;
+  if (!d.isValid()) return false;
+  metin = TarihYaz(d);
+  return true;
 }
 
 QVariant TarihSql(const QString& ekran) {

@@ -86,8 +86,8 @@ QString UcHaneYazi(double Sayi);
 
 // --- dates on screen: always dd.MM.yyyy
 QString TarihYaz(const QDate& d);
-// Reads a day-first date with ".", "/" or "-" between the parts and a year of
-// two or four digits; an invalid QDate when it is none.
+// Reads a day-first date with one of ".", "/" or "-" between the parts and a
+// year of two or four digits; an invalid QDate when it is none.
 QDate TarihOku(const QString& s);
 // The completion of a typed date that TarihDuzelt does, without the box:
 // true with `metin` in dd.MM.yyyy form, false with `metin` unchanged.

@@ -95,6 +95,21 @@ TEST_F(Yardimci, DosKarakterSadeceTurkHarfleri) {
   ASSERT_EQ(b.size(), 12 + 6);
   for (int i = 0; i < 12; ++i) EXPECT_EQ((unsigned char)b[i], beklenen[i]) << i;
   EXPECT_EQ(b.mid(12), QByteArray(" aZ09-"));
+  // Everything else goes out in the Turkish Windows code page; "?" only for
+  // what that page lacks.
+  const struct {
+    const char16_t* metin;
+    QByteArray bayt;
+  } digerleri[] = {
+      {u"100 €", QByteArray("100 \x80")},
+      {u"“a” – b…", QByteArray("\x93" "a\x94 \x96 b\x85")},
+      {u"é½§", QByteArray("\xE9\xBD\xA7")},
+      {u"Ðý€", QByteArray("??\x80")},  // Latin-1 letters whose places the Turkish ones took
+      {u"Ω→", QByteArray("??")},
+  };
+  for (const auto& d : digerleri)
+    EXPECT_EQ(DosKarakter(QString::fromUtf16(d.metin)).toHex(), d.bayt.toHex())
+        << QString::fromUtf16(d.metin).toStdString();
 }
 
 TEST_F(Yardimci, TarihTamamlama) {
@@ -109,6 +124,16 @@ TEST_F(Yardimci, TarihTamamlama) {
   EXPECT_EQ(tamamla(QStringLiteral("1.2.2005")), QStringLiteral("01.02.2005"));
   EXPECT_EQ(tamamla(QStringLiteral("01-02-2005")), QStringLiteral("01.02.2005"));
   EXPECT_EQ(tamamla(QStringLiteral("010299")), QStringLiteral("01.02.1999"));
+  // What a clerk types every day: day and month in this year, and the short
+  // forms with "-" (not cut into parts as if they were digits).
+  const char* const gunluk[][2] = {
+      {"1.12", "01.12.2026"},     {"12.1", "12.01.2026"},     {"1/12", "01.12.2026"},
+      {"1.5", "01.05.2026"},      {"31.12", "31.12.2026"},    {"1-1-05", "01.01.2005"},
+      {"01-01-05", "01.01.2005"}, {"1-1-2005", "01.01.2005"}, {"5/6/07", "05.06.2007"},
+      {"1.1.5", "HATA:1.1.5"},    {"1.1.205", "HATA:1.1.205"}, {"31.2", "HATA:31.2"},
+      {"1-12", "HATA:1-12"},      {"1.1-2005", "HATA:1.1-2005"}};
+  for (const auto& [yazilan, beklenen] : gunluk)
+    EXPECT_EQ(tamamla(QString::fromUtf8(yazilan)), QString::fromUtf8(beklenen)) << yazilan;
   EXPECT_EQ(tamamla(QStringLiteral("3113")), QStringLiteral("HATA:3113"));
   EXPECT_EQ(tamamla(QStringLiteral("300205")), QStringLiteral("HATA:300205"));
   EXPECT_EQ(tamamla(QStringLiteral("abc")), QStringLiteral("HATA:abc"));
