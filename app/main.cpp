@@ -7,6 +7,7 @@
 #include <cstdio>
 
 #include "core/Genel.h"
+#include "core/Uygulama.h"
 #include "core/frmMain.h"
 #include "master/frmFirma.h"
 #include "master/frmMusteri.h"
@@ -91,7 +92,7 @@ int main(int argc, char** argv) {
     return 2;
   }
 
-  QApplication uyg(argc, argv);
+  Uygulama uyg(argc, argv);
   QApplication::setApplicationName(QStringLiteral("velmora"));
   QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
   EkranlariKaydet();

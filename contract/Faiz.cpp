@@ -224,8 +224,8 @@ std::optional<QString> TutarAlani(const QString& metin, bool Meblag) {
 }
 
 QString OranAlani(const QString& metin) {
-  const double bas = R1Sayisi(metin);  // R1
-  if (!(bas > 0)) return QStringLiteral("0");   // R2
+  const double bas = R1Sayisi(metin);          // R1
+  if (!(bas > 0)) return QStringLiteral("0");  // R2
   double v = 0;
   if (Genel::SayiOkuDene(metin, v)) return KisaYaz(v);  // R3
   return KisaYaz(bas);  // no number by the regional rules: its leading number

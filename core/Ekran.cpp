@@ -14,6 +14,7 @@
 #include "core/Form.h"
 #include "core/Genel.h"
 #include "core/Mesaj.h"
+#include "db/Baglanti.h"
 
 namespace ekran {
 
@@ -272,6 +273,31 @@ QWidget* Acik(const QString& ad) {
   return it != K().acik.end() ? it.value().data() : nullptr;
 }
 
+namespace {
+
+// A screen whose making or loading failed goes away whole, frame and all.
+void Kaldir(const QString& ad, QWidget* w) {
+  K().acik.remove(ad);
+  if (!w) return;
+  if (auto* alt = qobject_cast<QMdiSubWindow*>(w->parentWidget()))
+    delete alt;
+  else
+    delete w;
+}
+
+}  // namespace
+
+void MotorHatasiGoster(const db::Hata& h) {
+  if (h.BaglantiYok()) {
+    mesaj::Kritik(QStringLiteral("Veri tabanı açık değil. Ayarlarınızı kontrol edip programı "
+                                 "yeniden başlatınız."),
+                  QStringLiteral("HATA"));
+    return;
+  }
+  mesaj::Kritik(QStringLiteral("Bir Hata Oluştu") + QLatin1Char('\n') + h.metin(),
+                QStringLiteral("HATA"));
+}
+
 QWidget* Ac(const QString& ad) {
   if (QWidget* w = Acik(ad)) {
     QWidget* cerceve = w;
@@ -284,18 +310,27 @@ QWidget* Ac(const QString& ad) {
   }
   auto it = K().uretici.find(ad);
   if (it == K().uretici.end()) return nullptr;
-  QWidget* w = it.value()();
-  if (!w) return nullptr;
-  w->setObjectName(ad);
-  w->setAttribute(Qt::WA_DeleteOnClose);
-  K().acik[ad] = w;
-  if (K().yerlestir)
-    K().yerlestir(w);
-  else
-    w->show();
-  if (auto* f = qobject_cast<Form*>(w)) {
-    f->Yukle();
-    f->Form_Activate();
+  QPointer<QWidget> w;
+  try {
+    w = it.value()();
+    if (!w) return nullptr;
+    w->setObjectName(ad);
+    w->setAttribute(Qt::WA_DeleteOnClose);
+    K().acik[ad] = w;
+    if (K().yerlestir)
+      K().yerlestir(w);
+    else
+      w->show();
+    if (auto* f = qobject_cast<Form*>(w.data())) {
+      f->Yukle();
+      f->Form_Activate();
+    }
+  } catch (const db::Hata& h) {
+    // The engine refused what the screen needs to open: the clerk is told,
+    // the program goes on without the screen.
+    Kaldir(ad, w);
+    MotorHatasiGoster(h);
+    return nullptr;
   }
   return w;
 }
@@ -308,7 +343,12 @@ bool KomutVar(const QString& ad) { return K().komut.contains(ad); }
 
 void KomutCalistir(const QString& ad) {
   auto it = K().komut.find(ad);
-  if (it != K().komut.end()) it.value()();
+  if (it == K().komut.end()) return;
+  try {
+    it.value()();
+  } catch (const db::Hata& h) {
+    MotorHatasiGoster(h);
+  }
 }
 
 bool Hazir(const QString& ad) { return KomutVar(ad) || KayitliMi(ad); }

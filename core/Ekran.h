@@ -10,6 +10,10 @@ class QLineEdit;
 class QWidget;
 class QComboBox;
 
+namespace db {
+class Hata;
+}
+
 namespace ekran {
 
 // --- leaving a field
@@ -56,13 +60,20 @@ void FormOrtala(QWidget* ekran, int yukseklik, int genislik, bool kaydirmaYok = 
 void Bekle(int ms);
 void BekleAnlik(bool anlik);
 
+// --- engine failures
+// Tells the clerk of a failure of the engine that no check of the screen
+// handles: "Bir Hata Oluştu" and the engine's text, or, without a connection
+// at all, that the database is not open.
+void MotorHatasiGoster(const db::Hata& h);
+
 // --- opening screens by name
 // Screens register a maker; the main window opens each one once and brings
 // an open one to the front.
 using Uretici = std::function<QWidget*()>;
 void Kaydet(const QString& ad, Uretici uretici);
 bool KayitliMi(const QString& ad);
-// Opens (or brings forward) the screen; nullptr when no such screen exists.
+// Opens (or brings forward) the screen; nullptr when no such screen exists or
+// the engine failed while it was made or loaded (the clerk has been told).
 QWidget* Ac(const QString& ad);
 // The open screen of that name, or nullptr.
 QWidget* Acik(const QString& ad);
@@ -70,6 +81,7 @@ QWidget* Acik(const QString& ad);
 // Menu commands that are no screen (maintenance, upgrades) register here.
 void KomutKaydet(const QString& ad, std::function<void()> komut);
 bool KomutVar(const QString& ad);
+// Runs the command; a failure of the engine is shown, never thrown on.
 void KomutCalistir(const QString& ad);
 // A name that stands for a command or a screen: whether it exists, and
 // carrying it out (the command runs, the screen opens).

@@ -4,8 +4,8 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <algorithm>
-#include <cmath>
 #include <charconv>
+#include <cmath>
 #include <cstdlib>
 
 namespace Genel {
@@ -115,8 +115,8 @@ double OndalikYuvarla(double x, int basamak, bool bankaci) {
   if (!std::isfinite(x) || x == 0) return x;
   const bool eksi = x < 0;
   char buf[40];
-  const auto son = std::to_chars(buf, buf + sizeof buf - 1, std::fabs(x),
-                                 std::chars_format::scientific, 14);
+  const auto son =
+      std::to_chars(buf, buf + sizeof buf - 1, std::fabs(x), std::chars_format::scientific, 14);
   *son.ptr = '\0';
   // buf: d.dddddddddddddde±XX, whatever the C locale says
   int rakam[15];
@@ -205,19 +205,32 @@ namespace {
 // The printer's Turkish letters (code page 857).
 char Cp857Harfi(char16_t c) {
   switch (c) {
-    case u'ö': return char(148);
-    case u'Ö': return char(153);
-    case u'ü': return char(129);
-    case u'Ü': return char(154);
-    case u'ç': return char(135);
-    case u'Ç': return char(128);
-    case u'ş': return char(159);
-    case u'Ş': return char(158);
-    case u'ğ': return char(167);
-    case u'Ğ': return char(166);
-    case u'ı': return char(141);
-    case u'İ': return char(152);
-    default: return 0;
+    case u'ö':
+      return char(148);
+    case u'Ö':
+      return char(153);
+    case u'ü':
+      return char(129);
+    case u'Ü':
+      return char(154);
+    case u'ç':
+      return char(135);
+    case u'Ç':
+      return char(128);
+    case u'ş':
+      return char(159);
+    case u'Ş':
+      return char(158);
+    case u'ğ':
+      return char(167);
+    case u'Ğ':
+      return char(166);
+    case u'ı':
+      return char(141);
+    case u'İ':
+      return char(152);
+    default:
+      return 0;
   }
 }
 
@@ -239,8 +252,15 @@ char Cp1254Bayti(char16_t c) {
   // Latin-1 above 0xA0, but for the six places the Turkish letters take.
   if (c < 0xA0 || c > 0xFF) return 0;
   switch (c) {
-    case 0xD0: case 0xDD: case 0xDE: case 0xF0: case 0xFD: case 0xFE: return 0;
-    default: return char(c);
+    case 0xD0:
+    case 0xDD:
+    case 0xDE:
+    case 0xF0:
+    case 0xFD:
+    case 0xFE:
+      return 0;
+    default:
+      return char(c);
   }
 }
 
@@ -290,8 +310,7 @@ int YilOku(const QString& yil) {
 QDate BolgeselTarih(const QString& s, const QDate& bugun) {
   static const QRegularExpression ucParca(
       QStringLiteral("^\\s*(\\d{1,2})([./-])(\\d{1,2})\\2(\\d{1,4})\\s*$"));
-  static const QRegularExpression ikiParca(
-      QStringLiteral("^\\s*(\\d{1,2})[./](\\d{1,2})\\s*$"));
+  static const QRegularExpression ikiParca(QStringLiteral("^\\s*(\\d{1,2})[./](\\d{1,2})\\s*$"));
   if (const auto m = ucParca.match(s); m.hasMatch()) {
     const int yil = YilOku(m.captured(4));
     return yil ? QDate(yil, m.captured(3).toInt(), m.captured(1).toInt()) : QDate();

@@ -226,40 +226,45 @@ bool frmMain::Form_Load() {
     return false;
   }
   Genel::IniDosya = dizin + QStringLiteral("/velmora.ini");
-  bool yeni = false;
   try {
     Genel::AyarOku();
-    if (Genel::VeriDizini().isEmpty()) throw db::Hata(QStringLiteral("Veri dizini oluşturulamadı"));
-    const QString yol = Genel::VeriTabaniYolu();
-    if (QFile::exists(yol)) {
-      Genel::Baglanti.Ac(yol);
-    } else {
-      // The first start brings the tables and the reference data along.
-      Genel::Baglanti.Olustur(yol);
-      yeni = true;
-    }
-    db::Kayitlar rs = Genel::Baglanti.Sorgu(QStringLiteral("SELECT * FROM Firma"));
-    if (rs.Eof()) throw db::Hata(QStringLiteral("Firma kaydı yok"));
-    const QVariant seriS = rs.Fields(QStringLiteral("SozlesmeSeri"));
-    const QVariant seriF = rs.Fields(QStringLiteral("FaturaSeri"));
-    const QVariant ad = rs.Fields(QStringLiteral("Soyadi"));
-    if (!yeni && (db::NullMu(seriS) || db::NullMu(seriF) || db::NullMu(ad)))
-      throw db::Hata(QStringLiteral("Firma kaydında boş alan var"));
-    Genel::SozlesmeSeri = seriS.toString();
-    Genel::FaturaSeri = seriF.toString();
-    Genel::FirmaAdi = ad.toString();
-    setWindowTitle(Baslik(Genel::FirmaAdi));
+    VeriTabaniAc();
+    FirmaOku();
   } catch (const std::exception&) {
-    Genel::Baglanti.Kapat();
+    // A file that opened stays open, so that the firm screen can mend its row.
     mesaj::Kritik(QStringLiteral("Veri tabanı açılamadı. Ayarlarınızı kontrol ediniz!"),
                   QStringLiteral("HATA"));
     ekran::Ac(QStringLiteral("frmIni"));
     return true;
   }
+  setWindowTitle(Baslik(Genel::FirmaAdi));
   if (arka) arka->Form_Load();
-  // A new database has no firm yet: its record is the first thing to fill in.
-  if (yeni) ekran::Ac(QStringLiteral("frmFirma"));
+  // Until the office has a name, every start asks for it.
+  if (Genel::FirmaAdi.isEmpty()) ekran::Ac(QStringLiteral("frmFirma"));
   return true;
+}
+
+void frmMain::VeriTabaniAc() {
+  if (Genel::VeriDizini().isEmpty()) throw db::Hata(QStringLiteral("Veri dizini oluşturulamadı"));
+  const QString yol = Genel::VeriTabaniYolu();
+  // The first start brings the tables and the reference data along.
+  if (QFile::exists(yol))
+    Genel::Baglanti.Ac(yol);
+  else
+    Genel::Baglanti.Olustur(yol);
+}
+
+void frmMain::FirmaOku() {
+  db::Kayitlar rs = Genel::Baglanti.Sorgu(QStringLiteral("SELECT * FROM Firma"));
+  if (rs.Eof()) throw db::Hata(QStringLiteral("Firma kaydı yok"));
+  const QVariant seriS = rs.Fields(QStringLiteral("SozlesmeSeri"));
+  const QVariant seriF = rs.Fields(QStringLiteral("FaturaSeri"));
+  const QVariant ad = rs.Fields(QStringLiteral("Soyadi"));
+  if (db::NullMu(seriS) || db::NullMu(seriF) || db::NullMu(ad))
+    throw db::Hata(QStringLiteral("Firma kaydında boş alan var"));
+  Genel::SozlesmeSeri = seriS.toString();
+  Genel::FaturaSeri = seriF.toString();
+  Genel::FirmaAdi = ad.toString();
 }
 
 void frmMain::ArkaPlan() {
@@ -274,7 +279,8 @@ void frmMain::ArkaPlan() {
 }
 
 bool frmMain::eventFilter(QObject* o, QEvent* e) {
-  if (o == centralWidget() && e->type() == QEvent::Resize) mdi->setGeometry(centralWidget()->rect());
+  if (o == centralWidget() && e->type() == QEvent::Resize)
+    mdi->setGeometry(centralWidget()->rect());
   return QMainWindow::eventFilter(o, e);
 }
 

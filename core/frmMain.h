@@ -49,6 +49,11 @@ class frmMain : public QMainWindow {
 
   // Start-up steps; false when the window had to be unloaded.
   bool Form_Load();
+  // Opens the database file, or creates it on the first start.
+  static void VeriTabaniAc();
+  // Reads the office's row into the globals; throws when it is missing or
+  // holds a Null in one of the columns read.
+  static void FirmaOku();
   void ArkaPlan();
   // The title the window gets from the firm's name.
   static QString Baslik(const QString& firmaAdi);
@@ -79,5 +84,5 @@ class frmMain : public QMainWindow {
   QAction* Ekle(QMenu* menu, const char* ad, const QString& baslik, std::function<void()> is);
   void EkranYerlestir(QWidget* w);
   QHash<QAction*, QString> hedef_;  // screen or command each entry opens
-  QVector<QAction*> kapali_;         // switched off for good
+  QVector<QAction*> kapali_;        // switched off for good
 };

@@ -152,9 +152,7 @@ QVariant SutunDegeri(sqlite3_stmt* st, int i) {
 
 }  // namespace
 
-bool Hata::Kilitli() const {
-  return AnaKod() == SQLITE_BUSY || AnaKod() == SQLITE_LOCKED;
-}
+bool Hata::Kilitli() const { return AnaKod() == SQLITE_BUSY || AnaKod() == SQLITE_LOCKED; }
 
 bool Hata::KisitIhlali() const { return AnaKod() == SQLITE_CONSTRAINT; }
 

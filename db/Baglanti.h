@@ -21,8 +21,8 @@ class Kayitlar;
 class Hata : public std::runtime_error {
  public:
   enum : int {
-    kProgram = 0,        // not from the engine: a misuse found by this layer
-    kBaglantiYok = -1,   // no open connection
+    kProgram = 0,       // not from the engine: a misuse found by this layer
+    kBaglantiYok = -1,  // no open connection
   };
   explicit Hata(const QString& metin, int kod = kProgram)
       : std::runtime_error(metin.toStdString()), metin_(metin), kod_(kod) {}

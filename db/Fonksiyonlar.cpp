@@ -13,8 +13,8 @@
 #include <vector>
 
 #include "db/Baglanti.h"
-#include "db/Val.h"
 #include "db/Turkce.h"
+#include "db/Val.h"
 
 namespace db {
 

@@ -180,7 +180,10 @@ void SemaOlustur(Baglanti& b) {
   for (const char* kod : kDovizler)
     b.Calistir(QStringLiteral("INSERT INTO DOVIZKOD(KOD) VALUES (?)"), {QString::fromUtf8(kod)});
   b.Calistir(QStringLiteral("INSERT INTO Versiyon(Major, Minor) VALUES (2, 3)"));
-  b.Calistir(QStringLiteral("INSERT INTO Firma(VergiKimlikNo) VALUES (NULL)"));
+  // The office's row: the three columns every start reads hold empty texts, so
+  // that a first start left without filling in the firm screen still opens.
+  b.Calistir(
+      QStringLiteral("INSERT INTO Firma(Soyadi, SozlesmeSeri, FaturaSeri) VALUES ('', '', '')"));
   islem.Onayla();
 }
 

@@ -102,7 +102,8 @@ TEST_F(Kabuk, KullanilamayanVeriTabaniDokunulmazKalir) {
     std::function<void(Kabuk&)> hazirla;
   };
   const QList<Durum> durumlar = {
-      {"firma alanı boş", [](Kabuk&) {}},  // a new database's row of Nulls
+      {"firma alanı boş",  // an older database's row of Nulls
+       [](Kabuk&) { Genel::Baglanti.Calistir(QStringLiteral("UPDATE Firma SET Soyadi = NULL")); }},
       {"firma satırı yok",
        [](Kabuk&) { Genel::Baglanti.Calistir(QStringLiteral("DELETE FROM Firma")); }},
       {"firma tablosu yok",

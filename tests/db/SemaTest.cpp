@@ -153,9 +153,10 @@ TEST_F(Sema, BaslangicVerileri) {
   EXPECT_EQ(kodlar.first(), u"TRL"_s);
   for (const char* k : {"TRL", "USD", "EUR", "GBP", "CHF"}) EXPECT_EQ(kodlar.count(k), 1) << k;
 
-  // One firm row, all Null, for the firm screen to fill; the version; no
+  // One firm row for the firm screen to fill: the name and the two series that
+  // every start reads are empty texts, the rest Null; the version; no
   // customers or rates.
-  EXPECT_EQ(Sorgu("SELECT * FROM Firma"), QStringList(12, "NULL").join('|'));
+  EXPECT_EQ(Sorgu("SELECT * FROM Firma"), u"NULL|NULL|NULL||NULL|NULL|NULL|NULL|NULL|NULL||"_s);
   EXPECT_EQ(Sorgu("SELECT Major, Minor, (SELECT count(*) FROM Musteri), "
                   "(SELECT count(*) FROM Kur) FROM Versiyon"),
             u"2|3|0|0"_s);

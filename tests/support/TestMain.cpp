@@ -1,11 +1,12 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
+#include "core/Uygulama.h"
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen"
                                                                    : qgetenv("QT_QPA_PLATFORM"));
-  QApplication app(argc, argv);
+  // The same net for stray engine failures as the program has.
+  Uygulama app(argc, argv);
   ::testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();
 }
