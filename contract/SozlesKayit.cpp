@@ -1,8 +1,6 @@
 // The contract screen's commands that write contracts: new, change, save,
 // cancel, delete, and the proposal of the next number.
 
-#include <algorithm>
-
 #include "contract/Faiz.h"
 #include "contract/frmSozBul.h"
 #include "contract/frmSozles.h"
@@ -51,13 +49,6 @@ double OranOku(const QString& metin) {
 
 QString frmSozles::HataMetni() {
   return QStringLiteral("Bir Hata Oldu, Lütfen Bilgileri Kontrol Edin");
-}
-
-bool frmSozles::SayiMi(const QString& metin) {
-  double v = 0;
-  return std::any_of(metin.begin(), metin.end(),
-                     [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); }) &&
-         Genel::SayiOkuDene(metin, v);
 }
 
 // --- a new contract
@@ -184,12 +175,12 @@ bool frmSozles::SozlesmeKaydet() {
   const QString hataliGiris = QStringLiteral("Hatalı Giriş");
   if (!Genel::TarihOku(txtTarih->text()).isValid())
     return hatali(txtTarih, QStringLiteral("Lütfen Tarih Bilgisini Doldurun"), hataliGiris);
-  if (!SayiMi(txtFaizOran->text()))
+  if (!Genel::SayiMi(txtFaizOran->text()))
     return hatali(txtFaizOran, QStringLiteral("Lütfen Faiz Oranı Bilgisini Girin"), hataliGiris);
-  if (!SayiMi(txtGecikmeOran->text()))
+  if (!Genel::SayiMi(txtGecikmeOran->text()))
     return hatali(txtGecikmeOran, QStringLiteral("Lütfen Gecikme Oranı Bilgisini Girin"),
                   hataliGiris);
-  if (!SayiMi(txtIskontoOran->text()))
+  if (!Genel::SayiMi(txtIskontoOran->text()))
     return hatali(txtIskontoOran, QStringLiteral("Lütfen İskonto Oranı Bilgisini Girin"),
                   hataliGiris);
 

@@ -175,8 +175,6 @@ class frmSozles : public ekran::Form {
   // A leave check runs only when the clerk leaves a field, not when the
   // screen disables or hides the field that holds the focus.
   static bool Ayriliyor(QWidget* w);
-  // "Is numeric" of the checks: a number by the regional rules, with a digit.
-  static bool SayiMi(const QString& metin);
   // What a refused write shows before the reason.
   static QString HataMetni();
 

@@ -3,8 +3,8 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
-#include <cmath>
 #include <charconv>
+#include <cmath>
 #include <cstdlib>
 
 namespace Genel {
@@ -100,6 +100,17 @@ bool SayiOkuDene(const QString& s, double& sonuc) {
   return true;
 }
 
+bool SayiMi(const QString& metin, double* deger) {
+  // SayiOkuDene takes a text without a digit (empty, blanks, a lone decimal
+  // sign) as 0; as an entry that is nothing typed.
+  bool rakam = false;
+  for (const QChar c : metin) rakam = rakam || (c >= QLatin1Char('0') && c <= QLatin1Char('9'));
+  double x = 0;
+  if (!rakam || !SayiOkuDene(metin, x)) return false;
+  if (deger) *deger = x;
+  return true;
+}
+
 double SayiOku(const QString& s) {
   double x = 0;
   if (!SayiOkuDene(s, x)) throw SayiHatasi{s};
@@ -114,8 +125,8 @@ double OndalikYuvarla(double x, int basamak, bool bankaci) {
   if (!std::isfinite(x) || x == 0) return x;
   const bool eksi = x < 0;
   char buf[40];
-  const auto son = std::to_chars(buf, buf + sizeof buf - 1, std::fabs(x),
-                                 std::chars_format::scientific, 14);
+  const auto son =
+      std::to_chars(buf, buf + sizeof buf - 1, std::fabs(x), std::chars_format::scientific, 14);
   *son.ptr = '\0';
   // buf: d.dddddddddddddde±XX, whatever the C locale says
   int rakam[15];
