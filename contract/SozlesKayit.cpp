@@ -4,6 +4,7 @@
 #include "contract/Faiz.h"
 #include "contract/frmSozBul.h"
 #include "contract/frmSozles.h"
+#include "core/Ekran.h"
 #include "core/Genel.h"
 #include "core/Mesaj.h"
 
@@ -66,7 +67,7 @@ void frmSozles::cmdNew_Click() {
   CekBosalt();
   cmbAd->setEnabled(false);
   KontrolText(true);
-  txtSozlesmeNo->setReadOnly(false);
+  ekran::SaltOkunur(txtSozlesmeNo, false);
   KontrolButon(QStringLiteral("Edit"));
   SeriKod = Genel::SozlesmeSeri.leftJustified(2, QLatin1Char(' '), true);
   cmdSozNoBul->setEnabled(true);
@@ -123,7 +124,7 @@ void frmSozles::cmdEdit_Click() {
   KayitDurum = 1;
   EskiSozlesmeNo = txtSozlesmeNo->text().trimmed().toInt();
   KontrolText(true);
-  txtSozlesmeNo->setReadOnly(false);
+  ekran::SaltOkunur(txtSozlesmeNo, false);
   KontrolButon(QStringLiteral("Edit"));
   txtTarih->setFocus();
 }

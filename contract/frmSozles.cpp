@@ -422,6 +422,10 @@ void frmSozles::KurDavranis() {
     return true;
   });
   ekran::AyrilirkenKontrol(txtValor, [this] { return txtValor_Validate(); });
+  // The locks the screen starts with: the number until a contract is opened
+  // for change, the payable amount always.
+  ekran::SaltOkunur(txtSozlesmeNo, true);
+  ekran::SaltOkunur(txtOdenecek, true);
   for (QWidget* w :
        std::initializer_list<QWidget*>{cmdCancel, cmdVazgec, cmdExit, cmdSozNoBul, cmdMusDetay})
     ekran::KontrolTetiklemez(w);
@@ -820,9 +824,12 @@ bool frmSozles::Ayriliyor(QWidget* w) { return w->isEnabled() && w->isVisible();
 
 void frmSozles::HesaplaKilit() {
   const faiz::HesaplaKilidi k = faiz::HesaplaKilit(Hesapla);
+  // A locked box is out of the tab order and takes no click; an open one
+  // goes into the tab order or out of it as the lock says.
   const auto uygula = [](QLineEdit* kutu, const faiz::AlanKilidi& kilit) {
-    kutu->setReadOnly(kilit.Kilitli);
-    if (kilit.Sekmede) kutu->setFocusPolicy(*kilit.Sekmede ? Qt::StrongFocus : Qt::ClickFocus);
+    ekran::SaltOkunur(kutu, kilit.Kilitli);
+    if (!kilit.Kilitli && kilit.Sekmede)
+      kutu->setFocusPolicy(*kilit.Sekmede ? Qt::StrongFocus : Qt::ClickFocus);
   };
   uygula(txtTutar, k.txtTutar);
   uygula(txtFaizTutar, k.txtFaizTutar);

@@ -353,6 +353,46 @@ TEST_F(Sozles, AlanKurallariVeUcDegerler) {
   EXPECT_TRUE(!f->Hesapla && !f->txtTutar->isReadOnly() && f->txtOdenecek->isReadOnly());
 }
 
+// A locked amount box never holds the focus. With Hesapla off, Tab passes
+// the payable amount by; a click into an empty locked amount of a new
+// contract takes no focus, so that clicking elsewhere asks for no amount.
+TEST_F(Sozles, KilitliTutarOdagiTutmaz) {
+  Genel::Hesapla = false;
+  auto* f = Ac(true);
+  Yaz(f->cmbAd, "ALİ YILMAZ");
+  ASSERT_TRUE(Bas(f->cmdNew));
+  ASSERT_EQ(QApplication::focusWidget(), f->txtTarih);
+  QTest::keyClicks(f->txtTarih, "040305");
+  QStringList gecilen;
+  for (int i = 0; i < 9; ++i) {
+    QWidget* odak = QApplication::focusWidget();
+    if (odak == f->txtTutar || odak == f->txtFaizTutar) QTest::keyClicks(odak, "100");
+    QTest::keyClick(odak, Qt::Key_Tab);
+    Isle();
+    gecilen << QApplication::focusWidget()->objectName();
+  }
+  EXPECT_EQ(Kutular(), "");
+  EXPECT_EQ(gecilen.join(' '),
+            "txtSozlesmeNo cmdSozNoBul txtValor chkHesapla txtTutar txtFaizTutar txtFaizOran "
+            "txtGecikmeOran txtIskontoOran");
+
+  // The setting on: a new contract starts with all three locked and empty.
+  ASSERT_TRUE(Bas(f->cmdCancel));
+  Genel::Hesapla = true;
+  ASSERT_TRUE(Bas(f->cmdNew));
+  QTest::keyClicks(f->txtTarih, "040305");
+  for (QLineEdit* kilitli : {f->txtTutar, f->txtFaizTutar, f->txtOdenecek}) {
+    QTest::mouseClick(f->txtTarih, Qt::LeftButton);
+    QTest::mouseClick(kilitli, Qt::LeftButton);
+    Isle();
+    EXPECT_NE(QApplication::focusWidget(), kilitli) << kilitli->objectName().toStdString();
+    QTest::mouseClick(f->txtGecikmeOran, Qt::LeftButton);
+    Isle();
+    EXPECT_EQ(Kutular(), "") << kilitli->objectName().toStdString();
+    EXPECT_EQ(QApplication::focusWidget(), f->txtGecikmeOran);
+  }
+}
+
 TEST_F(Sozles, SozlesmeAranirBulunur) {
   Sozlesme(1, 7, 12, "2005-03-01");
   Sozlesme(2, 8, 12, "2005-03-02");
