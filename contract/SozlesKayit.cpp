@@ -60,11 +60,12 @@ void frmSozles::cmdNew_Click() {
     cmbAd->setFocus();
     return;
   }
+  // Emptied first: when the engine fails there, the screen stays in its mode.
+  bosalt();
+  CekBosalt();
   KayitDurum = 2;
   DetayDurum = 3;
   DetaySayisi = 0;
-  bosalt();
-  CekBosalt();
   cmbAd->setEnabled(false);
   KontrolText(true);
   ekran::SaltOkunur(txtSozlesmeNo, false);

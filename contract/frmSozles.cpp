@@ -21,6 +21,7 @@
 #include "contract/rptBordro.h"
 #include "core/Ekran.h"
 #include "core/Genel.h"
+#include "core/Koruma.h"
 #include "core/Mesaj.h"
 
 namespace contract {
@@ -435,11 +436,17 @@ void frmSozles::KurDavranis() {
        std::initializer_list<QWidget*>{cmbAd, cmbTip, txtKesideci, txtBanka, txtSube, txtHesapNo})
     w->installEventFilter(this);
 
-  connect(chkHesapla, &QCheckBox::clicked, this, [this] { chkHesapla_Click(); });
-  connect(cmbTip, &QComboBox::activated, this, [this] { cmbTip_Click(); });
-  connect(dGridDetay, &ekran::Izgara::CiftTiklandi, this, [this] { dGridDetay_DblClick(); });
-  const auto bagla = [this](QPushButton* d, void (frmSozles::*f)()) {
-    connect(d, &QPushButton::clicked, this, [this, f] { (this->*f)(); });
+  // What the clerk sets off: an engine failure none of them handles is shown
+  // and the screen stays as it is.
+  const auto korumali = [this](void (frmSozles::*f)()) {
+    return [this, f] { ekran::Korumali([this, f] { (this->*f)(); }); };
+  };
+  connect(chkHesapla, &QCheckBox::clicked, this, korumali(&frmSozles::chkHesapla_Click));
+  connect(cmbTip, &QComboBox::activated, this, korumali(&frmSozles::cmbTip_Click));
+  connect(dGridDetay, &ekran::Izgara::CiftTiklandi, this,
+          korumali(&frmSozles::dGridDetay_DblClick));
+  const auto bagla = [this, korumali](QPushButton* d, void (frmSozles::*f)()) {
+    connect(d, &QPushButton::clicked, this, korumali(f));
   };
   bagla(cmdBilgiGoster, &frmSozles::cmdBilgiGoster_Click);
   bagla(cmdMusDetay, &frmSozles::cmdMusDetay_Click);

@@ -393,6 +393,42 @@ TEST_F(Sozles, KilitliTutarOdagiTutmaz) {
   }
 }
 
+// An engine failure behind the open screen: the clerk's button shows it,
+// nothing ends, and the screen goes on once the engine is back.
+TEST_F(Sozles, MotorHatasiGosterilirEkranCalismayaDevamEder) {
+  Sozlesme(1, 7, 12, "2005-03-01");
+  Sozlesme(2, 9, 12, "2005-03-05");
+  auto* f = Ac(false);
+  const QString kapali = "Kritik HATA: Bir Hata Oluştu\nVeri tabanı açık değil";
+  Genel::Baglanti.Kapat();
+  for (QPushButton* d : {f->cmdNext, f->cmdLast, f->cmdEdit, f->cmdsil, f->cmdNew}) {
+    ASSERT_TRUE(Bas(d)) << d->objectName().toStdString();
+    EXPECT_EQ(Kutular(), kapali) << d->objectName().toStdString();
+  }
+  Genel::Baglanti.Ac(Genel::VeriTabaniYolu());
+  ASSERT_TRUE(Bas(f->cmdFirst));
+  EXPECT_EQ(Kayit(f), "7|Kayıt:  1 / 2");
+
+  // A table gone: its own words from the engine.
+  Calistir("DROP TABLE Fatura");
+  ASSERT_TRUE(Bas(f->cmdEdit));
+  EXPECT_EQ(Kutular(), "Kritik HATA: Bir Hata Oluştu\nno such table: Fatura");
+  EXPECT_EQ(f->KayitDurum, 0);
+  ASSERT_TRUE(Bas(f->cmdNext));
+  EXPECT_EQ(Kayit(f), "9|Kayıt:  2 / 2");
+
+  // In the middle of a new contract.
+  ASSERT_TRUE(Bas(f->cmdNew));
+  Yaz(f->cmbAd, "ALİ YILMAZ");
+  Genel::Baglanti.Kapat();
+  ASSERT_TRUE(Bas(f->cmdSozNoBul));
+  EXPECT_EQ(Kutular(), kapali);
+  Genel::Baglanti.Ac(Genel::VeriTabaniYolu());
+  ASSERT_TRUE(Bas(f->cmdSozNoBul));
+  EXPECT_EQ(f->txtSozlesmeNo->text(), "10");
+  EXPECT_EQ(Kutular(), "");
+}
+
 TEST_F(Sozles, SozlesmeAranirBulunur) {
   Sozlesme(1, 7, 12, "2005-03-01");
   Sozlesme(2, 8, 12, "2005-03-02");
