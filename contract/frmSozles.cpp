@@ -580,9 +580,6 @@ void frmSozles::Goster() {
     lblToplam->setText(QStringLiteral("Kayıt:  %1 / %2")
                            .arg(rsSozlesme->AbsolutePosition())
                            .arg(rsSozlesme->RecordCount()));
-    okunanTarih_ = alan("Tarih");
-    okunanNo_ = alan("SozlesmeNo");
-    okunanMusteri_ = alan("MusteriNo");
 
     KontrolText(false);
     KontrolButon(QStringLiteral("Normal"));
@@ -604,7 +601,6 @@ void frmSozles::bosalt() {
   chkHesapla->setChecked(Hesapla);
   HesaplaKilit();
   txtValor->setText(faiz::ValorYazisi(ilaveGun));
-  okunanTarih_ = okunanNo_ = okunanMusteri_ = QVariant();
   // A set without rows (the rowid is never Null), so that the grid keeps its
   // columns.
   rsDetay =

@@ -393,6 +393,45 @@ TEST_F(Sozles, KilitliTutarOdagiTutmaz) {
   }
 }
 
+// A change reads the set anew only when it moves the contract in the set's
+// order or out of it: a contract written meanwhile by another station then
+// comes into the count. Moved, the changed contract stays on show; gone from
+// the customer's set, the place it stood shows the next one.
+TEST_F(Sozles, DegisiklikSiradaYerDegistirinceSetYenidenOkunur) {
+  Musteri(13, "KAYA", "AYŞE");
+  struct Durum {
+    bool musteriBazinda;
+    const char* alan;
+    const char* deger;
+    const char* kayit;
+  };
+  const Durum durumlar[] = {
+      {false, "txtFaizOran", "6", "7|Kayıt:  1 / 2"},
+      {false, "txtGecikmeOran", "3", "7|Kayıt:  1 / 2"},
+      {false, "txtTarih", "04.03.2005", "7|Kayıt:  2 / 3"},
+      {false, "txtSozlesmeNo", "10", "10|Kayıt:  1 / 3"},
+      {true, "txtFaizOran", "6", "7|Kayıt:  1 / 2"},
+      {true, "txtTarih", "06.03.2005", "7|Kayıt:  3 / 3"},
+      {true, "cmbAd", "AYŞE KAYA", "8|Kayıt:  1 / 2"},
+  };
+  for (const Durum& d : durumlar) {
+    Calistir("DELETE FROM Sozlesme");
+    Sozlesme(1, 7, 12, "2005-03-01");
+    Sozlesme(2, 9, 12, "2005-03-05");
+    auto* f = Ac(d.musteriBazinda);
+    if (d.musteriBazinda) {
+      Yaz(f->cmbAd, "ALİ YILMAZ");
+      ASSERT_TRUE(Bas(f->cmdBilgiGoster));
+    }
+    Sozlesme(3, 8, 12, "2005-03-03");
+    ASSERT_TRUE(Bas(f->cmdEdit));
+    Yaz(f->findChild<QWidget*>(d.alan), d.deger);
+    ASSERT_TRUE(Bas(f->cmdSave));
+    EXPECT_EQ(Kutular(), "");
+    EXPECT_EQ(Kayit(f), d.kayit) << d.alan << ' ' << d.musteriBazinda;
+  }
+}
+
 // An engine failure behind the open screen: the clerk's button shows it,
 // nothing ends, and the screen goes on once the engine is back.
 TEST_F(Sozles, MotorHatasiGosterilirEkranCalismayaDevamEder) {
