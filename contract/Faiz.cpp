@@ -83,13 +83,6 @@ QString KisaYaz(double v) {
   return s;
 }
 
-// "Is a number by the locale's rules" of step A2: at least one digit, and
-// SayiOku takes it. So the empty text, blanks, or a lone decimal sign fail.
-bool SayiMi(const QString& metin, double& deger) {
-  if (std::none_of(metin.cbegin(), metin.cend(), Rakam)) return false;
-  return Genel::SayiOkuDene(metin, deger);
-}
-
 }  // namespace
 
 // --- rule D and totals
@@ -217,8 +210,9 @@ Sonuc TutarHesap(const Girdi& girdi, std::span<const Satir> satirlar) {
 std::optional<QString> TutarAlani(const QString& metin, bool Meblag) {
   const QString t = (Meblag && metin.isEmpty()) ? QStringLiteral("0") : metin;  // A1
   double v = 0;
-  if (!SayiMi(t, v)) return std::nullopt;  // A2
-  if (v > kEskiLiraSiniri)                 // A3: old lira into new
+  // A2: the empty text, blanks or a lone decimal sign are no amount.
+  if (!Genel::SayiMi(t, &v)) return std::nullopt;
+  if (v > kEskiLiraSiniri)  // A3: old lira into new
     return ParaYazisi(Genel::YuvarlaBankaci(v / 1000000, 2));
   return Genel::ParaFormat(t);
 }

@@ -193,9 +193,9 @@ bool frmSozles::DetayKontrol() {
   }
   if (!Genel::TarihOku(txtVade->text()).isValid())
     return uyari(txtVade, QStringLiteral("Lütfen Vade Bilgisini Girin!!"));
-  if (!SayiMi(txtGun->text()))
+  if (!Genel::SayiMi(txtGun->text()))
     return uyari(txtGun, QStringLiteral("Lütfen Gün bilgisine Gün Sayısını ya da 0 Girin!!"));
-  if (!SayiMi(txtMeblag->text()))
+  if (!Genel::SayiMi(txtMeblag->text()))
     return uyari(txtMeblag, QStringLiteral("Lütfen Meblağn bilgisini Girin!!"));
   return true;
 }

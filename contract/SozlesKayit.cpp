@@ -1,11 +1,12 @@
 // The contract screen's commands that write contracts: new, change, save,
 // cancel, delete, and the proposal of the next number.
 
-#include <algorithm>
+#include <optional>
 
 #include "contract/Faiz.h"
 #include "contract/frmSozBul.h"
 #include "contract/frmSozles.h"
+#include "core/Ekran.h"
 #include "core/Genel.h"
 #include "core/Mesaj.h"
 
@@ -47,17 +48,36 @@ double OranOku(const QString& metin) {
   return v;
 }
 
+// Where a contract stands in the screen's set: the date and number it is
+// ordered by, and the customer whose contracts the set may be.
+struct SiraAnahtari {
+  QVariant tarih;
+  qint64 no = 0;
+  qint64 musteri = 0;
+  bool operator==(const SiraAnahtari&) const = default;
+};
+
+// The stored contract's place; none when its row is gone.
+std::optional<SiraAnahtari> SiraOku(qint32 id) {
+  const db::Kayitlar rs = Genel::Baglanti.Sorgu(
+      QStringLiteral("SELECT Tarih, SozlesmeNo, MusteriNo FROM Sozlesme WHERE SozlesmeID = ?"),
+      {id});
+  if (!rs.SatirVar()) return std::nullopt;
+  return SiraAnahtari{rs.Fields(0), rs.Fields(1).toLongLong(), rs.Fields(2).toLongLong()};
+}
+
+// The contract's lines and its invoice take its new number.
+void NumarayiTasi(qint32 id, qint32 no) {
+  Genel::Baglanti.Calistir(
+      QStringLiteral("UPDATE SozlesmeDetay SET SozlesmeNo = ? WHERE SozlesmeID = ?"), {no, id});
+  Genel::Baglanti.Calistir(QStringLiteral("UPDATE Fatura SET SozlesmeNo = ? WHERE SozlesmeID = ?"),
+                           {no, id});
+}
+
 }  // namespace
 
 QString frmSozles::HataMetni() {
   return QStringLiteral("Bir Hata Oldu, Lütfen Bilgileri Kontrol Edin");
-}
-
-bool frmSozles::SayiMi(const QString& metin) {
-  double v = 0;
-  return std::any_of(metin.begin(), metin.end(),
-                     [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); }) &&
-         Genel::SayiOkuDene(metin, v);
 }
 
 // --- a new contract
@@ -68,14 +88,15 @@ void frmSozles::cmdNew_Click() {
     cmbAd->setFocus();
     return;
   }
+  // Emptied first: when the engine fails there, the screen stays in its mode.
+  bosalt();
+  CekBosalt();
   KayitDurum = 2;
   DetayDurum = 3;
   DetaySayisi = 0;
-  bosalt();
-  CekBosalt();
   cmbAd->setEnabled(false);
   KontrolText(true);
-  txtSozlesmeNo->setReadOnly(false);
+  ekran::SaltOkunur(txtSozlesmeNo, false);
   KontrolButon(QStringLiteral("Edit"));
   SeriKod = Genel::SozlesmeSeri.leftJustified(2, QLatin1Char(' '), true);
   cmdSozNoBul->setEnabled(true);
@@ -132,7 +153,7 @@ void frmSozles::cmdEdit_Click() {
   KayitDurum = 1;
   EskiSozlesmeNo = txtSozlesmeNo->text().trimmed().toInt();
   KontrolText(true);
-  txtSozlesmeNo->setReadOnly(false);
+  ekran::SaltOkunur(txtSozlesmeNo, false);
   KontrolButon(QStringLiteral("Edit"));
   txtTarih->setFocus();
 }
@@ -168,9 +189,39 @@ void frmSozles::cmdsil_Click() {
 
 // --- saving
 
+struct frmSozles::KayitDegerleri {
+  QVariant tarih;
+  qint32 no = 0;
+  qint64 musteri = 0;
+  double tutar = 0, faizTutar = 0, faizOran = 0, gecikme = 0, iskonto = 0;
+  // An empty txtFaizTutar leaves the stored interest of a changed contract.
+  bool faizTutarVar = false;
+  QString doviz, yaziyla, gun;
+  qint64 ilaveGun = 0;
+  int hesapla = 0;
+};
+
 void frmSozles::cmdSave_Click() { SozlesmeKaydet(); }
 
 bool frmSozles::SozlesmeKaydet() {
+  if (!KaydetKontrol()) return false;
+  try {
+    const KayitDegerleri d = KayitDegerleriOku();
+    if (KayitDurum == 2)
+      SozlesmeEkle(d);
+    else
+      SozlesmeGuncelle(d);
+    KayitDurum = 0;
+    return true;
+  } catch (const db::Hata& h) {
+    mesaj::Kritik(HataMetni() + QLatin1Char('\n') + h.metin(), QStringLiteral("Hata"));
+  } catch (const Red& r) {
+    mesaj::Kritik(HataMetni() + QLatin1Char('\n') + r.neden, QStringLiteral("Hata"));
+  }
+  return false;
+}
+
+bool frmSozles::KaydetKontrol() {
   const auto hatali = [](QLineEdit* kutu, const QString& metin, const QString& baslik) {
     mesaj::Kritik(metin, baslik);
     kutu->setFocus();
@@ -184,100 +235,97 @@ bool frmSozles::SozlesmeKaydet() {
   const QString hataliGiris = QStringLiteral("Hatalı Giriş");
   if (!Genel::TarihOku(txtTarih->text()).isValid())
     return hatali(txtTarih, QStringLiteral("Lütfen Tarih Bilgisini Doldurun"), hataliGiris);
-  if (!SayiMi(txtFaizOran->text()))
+  if (!Genel::SayiMi(txtFaizOran->text()))
     return hatali(txtFaizOran, QStringLiteral("Lütfen Faiz Oranı Bilgisini Girin"), hataliGiris);
-  if (!SayiMi(txtGecikmeOran->text()))
+  if (!Genel::SayiMi(txtGecikmeOran->text()))
     return hatali(txtGecikmeOran, QStringLiteral("Lütfen Gecikme Oranı Bilgisini Girin"),
                   hataliGiris);
-  if (!SayiMi(txtIskontoOran->text()))
+  if (!Genel::SayiMi(txtIskontoOran->text()))
     return hatali(txtIskontoOran, QStringLiteral("Lütfen İskonto Oranı Bilgisini Girin"),
                   hataliGiris);
+  return true;
+}
 
-  try {
-    const QString doviz =
-        cmbDoviz->currentText().isEmpty() ? QStringLiteral("TRL") : cmbDoviz->currentText();
-    const QVariant tarih = Genel::TarihSql(txtTarih->text());
-    if (Hesapla)
-      TutarHesap();
-    else
-      Odenecek = TutarOku(txtTutar->text(), QStringLiteral("Tutar"));
-    const QString yaziyla = Odenecek > 0 ? Genel::YaziyaCevir(Odenecek) : QStringLiteral("Sıfır");
+frmSozles::KayitDegerleri frmSozles::KayitDegerleriOku() {
+  KayitDegerleri d;
+  d.doviz = cmbDoviz->currentText().isEmpty() ? QStringLiteral("TRL") : cmbDoviz->currentText();
+  d.tarih = Genel::TarihSql(txtTarih->text());
+  // The words are those of the payable amount, or with Hesapla off of the
+  // amount as typed.
+  if (Hesapla)
+    TutarHesap();
+  else
+    Odenecek = TutarOku(txtTutar->text(), QStringLiteral("Tutar"));
+  d.yaziyla = Odenecek > 0 ? Genel::YaziyaCevir(Odenecek) : QStringLiteral("Sıfır");
 
-    const qint32 no = SozlesmeNoOku(txtSozlesmeNo->text());
-    const qint64 musteri = MusteriNoOku(txtMusteriNo->text());
-    const double tutar = TutarOku(txtTutar->text(), QStringLiteral("Tutar"));
-    const double faizTutar = TutarOku(txtFaizTutar->text(), QStringLiteral("Faiz Tutar"));
-    const double faizOran = OranOku(txtFaizOran->text());
-    const double gecikme = OranOku(txtGecikmeOran->text());
-    const double iskonto = OranOku(txtIskontoOran->text());
-    const int hesapla = Hesapla ? 1 : 0;
+  d.no = SozlesmeNoOku(txtSozlesmeNo->text());
+  d.musteri = MusteriNoOku(txtMusteriNo->text());
+  d.tutar = TutarOku(txtTutar->text(), QStringLiteral("Tutar"));
+  d.faizTutar = TutarOku(txtFaizTutar->text(), QStringLiteral("Faiz Tutar"));
+  d.faizTutarVar = !txtFaizTutar->text().isEmpty();
+  d.faizOran = OranOku(txtFaizOran->text());
+  d.gecikme = OranOku(txtGecikmeOran->text());
+  d.iskonto = OranOku(txtIskontoOran->text());
+  d.gun = GunYazisi;
+  d.ilaveGun = ilaveGun;
+  d.hesapla = Hesapla ? 1 : 0;
+  return d;
+}
 
-    if (KayitDurum == 2) {
-      const qint32 id = YeniSozlesmeID();
-      Genel::Baglanti.Calistir(
-          QStringLiteral("INSERT INTO Sozlesme(SozlesmeSeri, SozlesmeNo, MusteriNo, Tarih, Tutar, "
-                         "FaizOran, GecikmeOran, IskontoOran, FaizTutar, Yaziyla, Gun, ilaveGun, "
-                         "SozlesmeID, Doviz, Hesapla) "
-                         "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
-          {Genel::SozlesmeSeri, no, musteri, tarih, tutar, faizOran, gecikme, iskonto, faizTutar,
-           yaziyla, GunYazisi, ilaveGun, id, doviz, hesapla});
-      SozlesmeID = id;
-      if (!rsSozlesme) {
-        // The customer-bound screen before its first contract.
-        const QString yazilan = txtSozlesmeNo->text();
-        BilgiBul();
-        if (!yazilan.isEmpty()) txtSozlesmeNo->setText(yazilan);
-      } else {
-        rsSozlesme->Requery();
-      }
-      SozlesmeyeGit(SozlesmeID);
-      Goster();
-    } else {
-      QString sql = QStringLiteral(
-          "UPDATE Sozlesme SET Tarih = ?, MusteriNo = ?, Tutar = ?, Gun = ?, ilaveGun = ?, "
-          "FaizOran = ?, GecikmeOran = ?, IskontoOran = ?, Yaziyla = ?, Doviz = ?, Hesapla = ?, "
-          "SozlesmeNo = ?");
-      QVariantList degerler = {tarih,   musteri, tutar,   GunYazisi, ilaveGun, faizOran,
-                               gecikme, iskonto, yaziyla, doviz,     hesapla,  no};
-      if (!txtFaizTutar->text().isEmpty()) {
-        sql += QStringLiteral(", FaizTutar = ?");
-        degerler << faizTutar;
-      }
-      sql += QStringLiteral(" WHERE SozlesmeID = ?");
-      degerler << SozlesmeID;
-      {
-        // A new number goes to the lines and the invoice with the contract.
-        db::Islem islem(Genel::Baglanti);
-        Genel::Baglanti.Calistir(sql, degerler);
-        if (no != EskiSozlesmeNo) {
-          Genel::Baglanti.Calistir(
-              QStringLiteral("UPDATE SozlesmeDetay SET SozlesmeNo = ? WHERE SozlesmeID = ?"),
-              {no, SozlesmeID});
-          Genel::Baglanti.Calistir(
-              QStringLiteral("UPDATE Fatura SET SozlesmeNo = ? WHERE SozlesmeID = ?"),
-              {no, SozlesmeID});
-        }
-        islem.Onayla();
-      }
-      // The set holds keys in the order of date and number (or date within a
-      // customer): it needs reading again only when the contract moved in
-      // that order or left the customer. Back to the contract, or, when it
-      // has left the set, to the place it stood.
-      const bool yerDegisti = tarih != okunanTarih_ || no != okunanNo_.toLongLong() ||
-                              musteri != okunanMusteri_.toLongLong();
-      if (yerDegisti && rsSozlesme) {
-        const int konum = rsSozlesme->AbsolutePosition();
-        rsSozlesme->Requery();
-        if (!SozlesmeyeGit(SozlesmeID)) rsSozlesme->setAbsolutePosition(konum);
-      }
-      Goster();
-    }
-    KayitDurum = 0;
-    return true;
-  } catch (const db::Hata& h) {
-    mesaj::Kritik(HataMetni() + QLatin1Char('\n') + h.metin(), QStringLiteral("Hata"));
-  } catch (const Red& r) {
-    mesaj::Kritik(HataMetni() + QLatin1Char('\n') + r.neden, QStringLiteral("Hata"));
+void frmSozles::SozlesmeEkle(const KayitDegerleri& d) {
+  const qint32 id = YeniSozlesmeID();
+  Genel::Baglanti.Calistir(
+      QStringLiteral("INSERT INTO Sozlesme(SozlesmeSeri, SozlesmeNo, MusteriNo, Tarih, Tutar, "
+                     "FaizOran, GecikmeOran, IskontoOran, FaizTutar, Yaziyla, Gun, ilaveGun, "
+                     "SozlesmeID, Doviz, Hesapla) "
+                     "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+      {Genel::SozlesmeSeri, d.no, d.musteri, d.tarih, d.tutar, d.faizOran, d.gecikme, d.iskonto,
+       d.faizTutar, d.yaziyla, d.gun, d.ilaveGun, id, d.doviz, d.hesapla});
+  SozlesmeID = id;
+  if (!rsSozlesme) {
+    // The customer-bound screen before its first contract.
+    const QString yazilan = txtSozlesmeNo->text();
+    BilgiBul();
+    if (!yazilan.isEmpty()) txtSozlesmeNo->setText(yazilan);
+  } else {
+    rsSozlesme->Requery();
   }
-  return false;
+  SozlesmeyeGit(SozlesmeID);
+  Goster();
+}
+
+void frmSozles::SozlesmeGuncelle(const KayitDegerleri& d) {
+  // The set holds keys in the order of date and number (or date within a
+  // customer): it needs reading again only when the contract moved in that
+  // order or left the customer. Back to the contract, or, when it has left
+  // the set, to the place it stood.
+  if (DegisikligiYaz(d) && rsSozlesme) {
+    const int konum = rsSozlesme->AbsolutePosition();
+    rsSozlesme->Requery();
+    if (!SozlesmeyeGit(SozlesmeID)) rsSozlesme->setAbsolutePosition(konum);
+  }
+  Goster();
+}
+
+bool frmSozles::DegisikligiYaz(const KayitDegerleri& d) {
+  QString sql = QStringLiteral(
+      "UPDATE Sozlesme SET Tarih = ?, MusteriNo = ?, Tutar = ?, Gun = ?, ilaveGun = ?, "
+      "FaizOran = ?, GecikmeOran = ?, IskontoOran = ?, Yaziyla = ?, Doviz = ?, Hesapla = ?, "
+      "SozlesmeNo = ?");
+  QVariantList degerler = {d.tarih,   d.musteri, d.tutar,   d.gun,   d.ilaveGun, d.faizOran,
+                           d.gecikme, d.iskonto, d.yaziyla, d.doviz, d.hesapla,  d.no};
+  if (d.faizTutarVar) {
+    sql += QStringLiteral(", FaizTutar = ?");
+    degerler << d.faizTutar;
+  }
+  sql += QStringLiteral(" WHERE SozlesmeID = ?");
+  degerler << SozlesmeID;
+
+  db::Islem islem(Genel::Baglanti);
+  const std::optional<SiraAnahtari> once = SiraOku(SozlesmeID);
+  Genel::Baglanti.Calistir(sql, degerler);
+  // A new number goes to the lines and the invoice with the contract.
+  if (d.no != EskiSozlesmeNo) NumarayiTasi(SozlesmeID, d.no);
+  islem.Onayla();
+  return !once || *once != SiraAnahtari{d.tarih, d.no, d.musteri};
 }

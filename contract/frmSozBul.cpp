@@ -9,6 +9,7 @@
 
 #include "core/Ekran.h"
 #include "core/Genel.h"
+#include "core/Koruma.h"
 #include "core/Mesaj.h"
 #include "db/Kayitlar.h"
 
@@ -82,7 +83,9 @@ frmSozBul::frmSozBul(QWidget* ust) : QDialog(ust) {
   duzen->addLayout(sag);
   resize(ekran::Twip(4800), ekran::Twip(3600));
 
-  connect(OKButton, &QPushButton::clicked, this, [this] { OKButton_Click(); });
+  // A failing engine is shown, and the dialog stays for another search.
+  connect(OKButton, &QPushButton::clicked, this,
+          [this] { ekran::Korumali([this] { OKButton_Click(); }); });
   connect(CancelButton, &QPushButton::clicked, this, [this] { CancelButton_Click(); });
   connect(lstSonuc, &QListWidget::itemDoubleClicked, this, [this] { lstSonuc_DblClick(); });
   txtSozlesmeNo->setFocus();

@@ -21,6 +21,7 @@
 #include "contract/rptBordro.h"
 #include "core/Ekran.h"
 #include "core/Genel.h"
+#include "core/Koruma.h"
 #include "core/Mesaj.h"
 
 namespace contract {
@@ -422,6 +423,10 @@ void frmSozles::KurDavranis() {
     return true;
   });
   ekran::AyrilirkenKontrol(txtValor, [this] { return txtValor_Validate(); });
+  // The locks the screen starts with: the number until a contract is opened
+  // for change, the payable amount always.
+  ekran::SaltOkunur(txtSozlesmeNo, true);
+  ekran::SaltOkunur(txtOdenecek, true);
   for (QWidget* w :
        std::initializer_list<QWidget*>{cmdCancel, cmdVazgec, cmdExit, cmdSozNoBul, cmdMusDetay})
     ekran::KontrolTetiklemez(w);
@@ -431,11 +436,17 @@ void frmSozles::KurDavranis() {
        std::initializer_list<QWidget*>{cmbAd, cmbTip, txtKesideci, txtBanka, txtSube, txtHesapNo})
     w->installEventFilter(this);
 
-  connect(chkHesapla, &QCheckBox::clicked, this, [this] { chkHesapla_Click(); });
-  connect(cmbTip, &QComboBox::activated, this, [this] { cmbTip_Click(); });
-  connect(dGridDetay, &ekran::Izgara::CiftTiklandi, this, [this] { dGridDetay_DblClick(); });
-  const auto bagla = [this](QPushButton* d, void (frmSozles::*f)()) {
-    connect(d, &QPushButton::clicked, this, [this, f] { (this->*f)(); });
+  // What the clerk sets off: an engine failure none of them handles is shown
+  // and the screen stays as it is.
+  const auto korumali = [this](void (frmSozles::*f)()) {
+    return [this, f] { ekran::Korumali([this, f] { (this->*f)(); }); };
+  };
+  connect(chkHesapla, &QCheckBox::clicked, this, korumali(&frmSozles::chkHesapla_Click));
+  connect(cmbTip, &QComboBox::activated, this, korumali(&frmSozles::cmbTip_Click));
+  connect(dGridDetay, &ekran::Izgara::CiftTiklandi, this,
+          korumali(&frmSozles::dGridDetay_DblClick));
+  const auto bagla = [this, korumali](QPushButton* d, void (frmSozles::*f)()) {
+    connect(d, &QPushButton::clicked, this, korumali(f));
   };
   bagla(cmdBilgiGoster, &frmSozles::cmdBilgiGoster_Click);
   bagla(cmdMusDetay, &frmSozles::cmdMusDetay_Click);
@@ -569,9 +580,6 @@ void frmSozles::Goster() {
     lblToplam->setText(QStringLiteral("Kayıt:  %1 / %2")
                            .arg(rsSozlesme->AbsolutePosition())
                            .arg(rsSozlesme->RecordCount()));
-    okunanTarih_ = alan("Tarih");
-    okunanNo_ = alan("SozlesmeNo");
-    okunanMusteri_ = alan("MusteriNo");
 
     KontrolText(false);
     KontrolButon(QStringLiteral("Normal"));
@@ -593,7 +601,6 @@ void frmSozles::bosalt() {
   chkHesapla->setChecked(Hesapla);
   HesaplaKilit();
   txtValor->setText(faiz::ValorYazisi(ilaveGun));
-  okunanTarih_ = okunanNo_ = okunanMusteri_ = QVariant();
   // A set without rows (the rowid is never Null), so that the grid keeps its
   // columns.
   rsDetay =
@@ -820,9 +827,12 @@ bool frmSozles::Ayriliyor(QWidget* w) { return w->isEnabled() && w->isVisible();
 
 void frmSozles::HesaplaKilit() {
   const faiz::HesaplaKilidi k = faiz::HesaplaKilit(Hesapla);
+  // A locked box is out of the tab order and takes no click; an open one
+  // goes into the tab order or out of it as the lock says.
   const auto uygula = [](QLineEdit* kutu, const faiz::AlanKilidi& kilit) {
-    kutu->setReadOnly(kilit.Kilitli);
-    if (kilit.Sekmede) kutu->setFocusPolicy(*kilit.Sekmede ? Qt::StrongFocus : Qt::ClickFocus);
+    ekran::SaltOkunur(kutu, kilit.Kilitli);
+    if (!kilit.Kilitli && kilit.Sekmede)
+      kutu->setFocusPolicy(*kilit.Sekmede ? Qt::StrongFocus : Qt::ClickFocus);
   };
   uygula(txtTutar, k.txtTutar);
   uygula(txtFaizTutar, k.txtFaizTutar);

@@ -175,10 +175,25 @@ class frmSozles : public ekran::Form {
   // A leave check runs only when the clerk leaves a field, not when the
   // screen disables or hides the field that holds the focus.
   static bool Ayriliyor(QWidget* w);
-  // "Is numeric" of the checks: a number by the regional rules, with a digit.
-  static bool SayiMi(const QString& metin);
   // What a refused write shows before the reason.
   static QString HataMetni();
+
+  // --- saving (SozlesmeKaydet in its steps)
+  // What a save writes, taken from the fields once its checks have passed.
+  struct KayitDegerleri;
+  // The checks of the fields in their order; false after the message, with
+  // the focus in the field.
+  bool KaydetKontrol();
+  // The values to write; throws when a field can't give its value.
+  KayitDegerleri KayitDegerleriOku();
+  // A new contract: written under the next key and shown.
+  void SozlesmeEkle(const KayitDegerleri& d);
+  // The contract on show changed: written and shown again. The set is read
+  // anew only when the change moved the contract in its order.
+  void SozlesmeGuncelle(const KayitDegerleri& d);
+  // Writes the change, and a new number on to the lines and the invoice, in
+  // one transaction; true when the stored date, number or customer changed.
+  bool DegisikligiYaz(const KayitDegerleri& d);
 
   // --- lines
   // Opens rsDetay with the grid's query for the contract on show.
@@ -196,9 +211,6 @@ class frmSozles : public ekran::Form {
   contract::MusteriListesi* musteriler_;
   QList<QLabel*> etiketler_;
   bool musteriBazinda_ = false;
-  // Sort key of the contract on show as it was read, to tell whether a save
-  // moved it within rsSozlesme.
-  QVariant okunanTarih_, okunanNo_, okunanMusteri_;
 };
 
 namespace contract {

@@ -21,6 +21,13 @@ namespace ekran {
 namespace {
 
 const char* const kKontrolYok = "velmoraKontrolTetiklemez";
+// The focus policy a box had before SaltOkunur locked it.
+const char* const kOdakKurali = "velmoraOdakKurali";
+
+bool SaltOkunurMu(QWidget* w) {
+  auto* kutu = qobject_cast<QLineEdit*>(w);
+  return kutu && kutu->isReadOnly();
+}
 
 // Runs the leave checks: one filter on the application watches focus changes
 // and drops the mouse release that would click the control which took the
@@ -39,7 +46,7 @@ class AyrilmaBekcisi : public QObject {
 
   bool Calistir(QWidget* w) {
     auto it = kontroller_.find(w);
-    if (it == kontroller_.end() || calisiyor_) return true;
+    if (it == kontroller_.end() || calisiyor_ || SaltOkunurMu(w)) return true;
     calisiyor_ = true;
     const bool ok = it.value()();
     calisiyor_ = false;
@@ -190,6 +197,18 @@ void AyrilirkenKontrol(QWidget* kontrol, std::function<bool()> kontrolEt) {
 void KontrolTetiklemez(QWidget* kontrol) { kontrol->setProperty(kKontrolYok, true); }
 
 bool KontrolCalistir(QWidget* kontrol) { return AyrilmaBekcisi::O().Calistir(kontrol); }
+
+void SaltOkunur(QLineEdit* kutu, bool kilitli) {
+  kutu->setReadOnly(kilitli);
+  const QVariant onceki = kutu->property(kOdakKurali);
+  if (kilitli) {
+    if (!onceki.isValid()) kutu->setProperty(kOdakKurali, int(kutu->focusPolicy()));
+    kutu->setFocusPolicy(Qt::NoFocus);
+  } else if (onceki.isValid()) {
+    kutu->setFocusPolicy(Qt::FocusPolicy(onceki.toInt()));
+    kutu->setProperty(kOdakKurali, QVariant());
+  }
+}
 
 void MetinSec(QLineEdit* kutu) { kutu->setSelection(0, int(kutu->text().size())); }
 

@@ -27,6 +27,10 @@ void KontrolTetiklemez(QWidget* kontrol);
 // Runs the check of `kontrol` now, as leaving it would; true when it passes
 // or it has none.
 bool KontrolCalistir(QWidget* kontrol);
+// A read-only box holds nothing the clerk typed: its check never runs. Locked
+// by SaltOkunur it takes no focus either, by Tab or by a click, so that it can
+// never hold the focus; unlocked, it takes the focus as it did before.
+void SaltOkunur(QLineEdit* kutu, bool kilitli);
 
 // --- focus and keys
 // Selects the whole text of a box (MetinSec); the variant by name finds the

@@ -101,6 +101,17 @@ bool SayiOkuDene(const QString& s, double& sonuc) {
   return true;
 }
 
+bool SayiMi(const QString& metin, double* deger) {
+  // SayiOkuDene takes a text without a digit (empty, blanks, a lone decimal
+  // sign) as 0; as an entry that is nothing typed.
+  bool rakam = false;
+  for (const QChar c : metin) rakam = rakam || (c >= QLatin1Char('0') && c <= QLatin1Char('9'));
+  double x = 0;
+  if (!rakam || !SayiOkuDene(metin, x)) return false;
+  if (deger) *deger = x;
+  return true;
+}
+
 double SayiOku(const QString& s) {
   double x = 0;
   if (!SayiOkuDene(s, x)) throw SayiHatasi{s};

@@ -43,8 +43,8 @@ extern bool Sayfabasi, MasrafGoster, SadeceGoster, PulBedeli, HaftaSonu, Hesapla
 extern QString PrinterSozlesme, PrinterFatura;
 
 // --- folders and files
-QString AyarDizini();  // $VELMORA_AYAR or ~/.config/velmora, created 0700
-QString VeriDizini();  // $VELMORA_VERI or ~/.local/share/velmora, created 0700
+QString AyarDizini();      // $VELMORA_AYAR or ~/.config/velmora, created 0700
+QString VeriDizini();      // $VELMORA_VERI or ~/.local/share/velmora, created 0700
 QString VeriTabaniYolu();  // VeriDizini()/velmora.db
 QString WindowsDizini();   // the settings folder; empty when it cannot be made
 
@@ -68,6 +68,9 @@ struct SayiHatasi {
 double SayiOku(const QString& s);
 // Same, but false instead of an exception.
 bool SayiOkuDene(const QString& s, double& sonuc);
+// "Is a number" of the entry checks: at least one digit, and SayiOkuDene
+// takes it; the value goes to `deger` when it is.
+bool SayiMi(const QString& metin, double* deger = nullptr);
 QString ParaFormat(const QString& s);
 QString KurFormat(const QString& s);
 // A value rounded half away from zero to `basamak` decimals, then formatted

@@ -75,6 +75,23 @@ TEST_F(SozBulTest, SeriVeNumarayaGoreListelerReddeder) {
   EXPECT_TRUE(d->isVisible());
 }
 
+// A search while the engine is away: its words, the list as it was, and the
+// dialog open for the next search.
+TEST_F(SozBulTest, MotorHatasiGosterilirAramaSurer) {
+  auto d = Ac();
+  Ara(*d, "A", "8");
+  MesajlariTemizle();
+  Genel::Baglanti.Kapat();
+  EXPECT_EQ(Ara(*d, "A", "7"), u"11.02.2024 - 8 #13"_s);
+  ASSERT_EQ(Mesajlar().size(), 1);
+  EXPECT_EQ(Mesajlar()[0].baslik + ": " + Mesajlar()[0].metin,
+            u"HATA: Bir Hata Oluştu\nVeri tabanı açık değil"_s);
+  EXPECT_EQ(Mesajlar()[0].tur, mesaj::Tur::Kritik);
+  Genel::Baglanti.Ac(Genel::VeriTabaniYolu());
+  EXPECT_EQ(Ara(*d, "B", "7"), u"10.02.2024 - 7 #12"_s);
+  EXPECT_TRUE(d->isVisible());
+}
+
 TEST_F(SozBulTest, CiftTiklamaSecerVazgecSifirVerir) {
   auto d = Ac();
   Ara(*d, "", "7");

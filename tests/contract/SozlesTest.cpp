@@ -353,6 +353,121 @@ TEST_F(Sozles, AlanKurallariVeUcDegerler) {
   EXPECT_TRUE(!f->Hesapla && !f->txtTutar->isReadOnly() && f->txtOdenecek->isReadOnly());
 }
 
+// A locked amount box never holds the focus. With Hesapla off, Tab passes
+// the payable amount by; a click into an empty locked amount of a new
+// contract takes no focus, so that clicking elsewhere asks for no amount.
+TEST_F(Sozles, KilitliTutarOdagiTutmaz) {
+  Genel::Hesapla = false;
+  auto* f = Ac(true);
+  Yaz(f->cmbAd, "ALİ YILMAZ");
+  ASSERT_TRUE(Bas(f->cmdNew));
+  ASSERT_EQ(QApplication::focusWidget(), f->txtTarih);
+  QTest::keyClicks(f->txtTarih, "040305");
+  QStringList gecilen;
+  for (int i = 0; i < 9; ++i) {
+    QWidget* odak = QApplication::focusWidget();
+    if (odak == f->txtTutar || odak == f->txtFaizTutar) QTest::keyClicks(odak, "100");
+    QTest::keyClick(odak, Qt::Key_Tab);
+    Isle();
+    gecilen << QApplication::focusWidget()->objectName();
+  }
+  EXPECT_EQ(Kutular(), "");
+  EXPECT_EQ(gecilen.join(' '),
+            "txtSozlesmeNo cmdSozNoBul txtValor chkHesapla txtTutar txtFaizTutar txtFaizOran "
+            "txtGecikmeOran txtIskontoOran");
+
+  // The setting on: a new contract starts with all three locked and empty.
+  ASSERT_TRUE(Bas(f->cmdCancel));
+  Genel::Hesapla = true;
+  ASSERT_TRUE(Bas(f->cmdNew));
+  QTest::keyClicks(f->txtTarih, "040305");
+  for (QLineEdit* kilitli : {f->txtTutar, f->txtFaizTutar, f->txtOdenecek}) {
+    QTest::mouseClick(f->txtTarih, Qt::LeftButton);
+    QTest::mouseClick(kilitli, Qt::LeftButton);
+    Isle();
+    EXPECT_NE(QApplication::focusWidget(), kilitli) << kilitli->objectName().toStdString();
+    QTest::mouseClick(f->txtGecikmeOran, Qt::LeftButton);
+    Isle();
+    EXPECT_EQ(Kutular(), "") << kilitli->objectName().toStdString();
+    EXPECT_EQ(QApplication::focusWidget(), f->txtGecikmeOran);
+  }
+}
+
+// A change reads the set anew only when it moves the contract in the set's
+// order or out of it: a contract written meanwhile by another station then
+// comes into the count. Moved, the changed contract stays on show; gone from
+// the customer's set, the place it stood shows the next one.
+TEST_F(Sozles, DegisiklikSiradaYerDegistirinceSetYenidenOkunur) {
+  Musteri(13, "KAYA", "AYŞE");
+  struct Durum {
+    bool musteriBazinda;
+    const char* alan;
+    const char* deger;
+    const char* kayit;
+  };
+  const Durum durumlar[] = {
+      {false, "txtFaizOran", "6", "7|Kayıt:  1 / 2"},
+      {false, "txtGecikmeOran", "3", "7|Kayıt:  1 / 2"},
+      {false, "txtTarih", "04.03.2005", "7|Kayıt:  2 / 3"},
+      {false, "txtSozlesmeNo", "10", "10|Kayıt:  1 / 3"},
+      {true, "txtFaizOran", "6", "7|Kayıt:  1 / 2"},
+      {true, "txtTarih", "06.03.2005", "7|Kayıt:  3 / 3"},
+      {true, "cmbAd", "AYŞE KAYA", "8|Kayıt:  1 / 2"},
+  };
+  for (const Durum& d : durumlar) {
+    Calistir("DELETE FROM Sozlesme");
+    Sozlesme(1, 7, 12, "2005-03-01");
+    Sozlesme(2, 9, 12, "2005-03-05");
+    auto* f = Ac(d.musteriBazinda);
+    if (d.musteriBazinda) {
+      Yaz(f->cmbAd, "ALİ YILMAZ");
+      ASSERT_TRUE(Bas(f->cmdBilgiGoster));
+    }
+    Sozlesme(3, 8, 12, "2005-03-03");
+    ASSERT_TRUE(Bas(f->cmdEdit));
+    Yaz(f->findChild<QWidget*>(d.alan), d.deger);
+    ASSERT_TRUE(Bas(f->cmdSave));
+    EXPECT_EQ(Kutular(), "");
+    EXPECT_EQ(Kayit(f), d.kayit) << d.alan << ' ' << d.musteriBazinda;
+  }
+}
+
+// An engine failure behind the open screen: the clerk's button shows it,
+// nothing ends, and the screen goes on once the engine is back.
+TEST_F(Sozles, MotorHatasiGosterilirEkranCalismayaDevamEder) {
+  Sozlesme(1, 7, 12, "2005-03-01");
+  Sozlesme(2, 9, 12, "2005-03-05");
+  auto* f = Ac(false);
+  const QString kapali = "Kritik HATA: Bir Hata Oluştu\nVeri tabanı açık değil";
+  Genel::Baglanti.Kapat();
+  for (QPushButton* d : {f->cmdNext, f->cmdLast, f->cmdEdit, f->cmdsil, f->cmdNew}) {
+    ASSERT_TRUE(Bas(d)) << d->objectName().toStdString();
+    EXPECT_EQ(Kutular(), kapali) << d->objectName().toStdString();
+  }
+  Genel::Baglanti.Ac(Genel::VeriTabaniYolu());
+  ASSERT_TRUE(Bas(f->cmdFirst));
+  EXPECT_EQ(Kayit(f), "7|Kayıt:  1 / 2");
+
+  // A table gone: its own words from the engine.
+  Calistir("DROP TABLE Fatura");
+  ASSERT_TRUE(Bas(f->cmdEdit));
+  EXPECT_EQ(Kutular(), "Kritik HATA: Bir Hata Oluştu\nno such table: Fatura");
+  EXPECT_EQ(f->KayitDurum, 0);
+  ASSERT_TRUE(Bas(f->cmdNext));
+  EXPECT_EQ(Kayit(f), "9|Kayıt:  2 / 2");
+
+  // In the middle of a new contract.
+  ASSERT_TRUE(Bas(f->cmdNew));
+  Yaz(f->cmbAd, "ALİ YILMAZ");
+  Genel::Baglanti.Kapat();
+  ASSERT_TRUE(Bas(f->cmdSozNoBul));
+  EXPECT_EQ(Kutular(), kapali);
+  Genel::Baglanti.Ac(Genel::VeriTabaniYolu());
+  ASSERT_TRUE(Bas(f->cmdSozNoBul));
+  EXPECT_EQ(f->txtSozlesmeNo->text(), "10");
+  EXPECT_EQ(Kutular(), "");
+}
+
 TEST_F(Sozles, SozlesmeAranirBulunur) {
   Sozlesme(1, 7, 12, "2005-03-01");
   Sozlesme(2, 8, 12, "2005-03-02");

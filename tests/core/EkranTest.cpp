@@ -62,6 +62,41 @@ TEST(Ekran, AyrilmaKontroluOdagiTutarVeTiklamayiDusurur) {
   EXPECT_EQ(p.kaydetSayisi, 1);
 }
 
+// A read-only box holds nothing typed: leaving it, by Tab or by a click on a
+// button, runs no check, whoever locked it. Locked by SaltOkunur it takes no
+// focus at all; unlocked, it takes the focus and checks again.
+TEST(Ekran, KilitliKutuOdagiTutmaz) {
+  for (const bool saltOkunur : {true, false}) {
+    Pencere p;
+    p.alan->setText(QStringLiteral("0"));  // a text its check refuses
+    if (saltOkunur)
+      ekran::SaltOkunur(p.alan, true);
+    else
+      p.alan->setReadOnly(true);
+    p.alan->setFocus();  // the focus was there when it was locked
+    QTest::keyClick(p.alan, Qt::Key_Tab);
+    EXPECT_TRUE(p.diger->hasFocus()) << saltOkunur;
+    p.alan->setFocus();
+    QTest::mouseClick(p.kaydet, Qt::LeftButton);
+    EXPECT_EQ(p.kaydetSayisi, 1) << saltOkunur;
+  }
+
+  Pencere p;
+  p.alan->setText(QStringLiteral("0"));
+  ekran::SaltOkunur(p.alan, true);
+  QTest::mouseClick(p.diger, Qt::LeftButton);
+  QTest::mouseClick(p.alan, Qt::LeftButton);
+  EXPECT_TRUE(p.diger->hasFocus());
+  QTest::keyClick(p.diger, Qt::Key_Backtab);
+  EXPECT_TRUE(p.vazgec->hasFocus());
+
+  ekran::SaltOkunur(p.alan, false);
+  EXPECT_EQ(p.alan->focusPolicy(), Qt::StrongFocus);
+  QTest::mouseClick(p.alan, Qt::LeftButton);
+  QTest::keyClick(p.alan, Qt::Key_Tab);
+  EXPECT_TRUE(p.alan->hasFocus());
+}
+
 // Typed characters, Turkish letters included, as the keyboard sends them.
 void Yaz(QLineEdit* kutu, const QString& metin) {
   for (QChar c : metin) {

@@ -37,6 +37,24 @@ TEST_F(Yardimci, SayiOkuTurkceBicim) {
   EXPECT_EQ(x, 9.0);
 }
 
+// A number of the entry checks needs a digit: what SayiOku reads as 0 without
+// one is nothing typed. The value comes only with a yes.
+TEST_F(Yardimci, SayiMiRakamIster) {
+  const std::pair<const char*, double> sayilar[] = {
+      {"0", 0}, {" 5 ", 5}, {"1.234,5", 1234.5}, {"-7,25", -7.25}, {",5", 0.5}};
+  for (const auto& [metin, deger] : sayilar) {
+    double x = 9;
+    EXPECT_TRUE(SayiMi(QString::fromLatin1(metin), &x)) << metin;
+    EXPECT_EQ(x, deger) << metin;
+  }
+  for (const char* metin : {"", "   ", ",", "-", "abc", "1abc", "1,2,3", "12.5,5,"}) {
+    double x = 9;
+    EXPECT_FALSE(SayiMi(QString::fromLatin1(metin), &x)) << metin;
+    EXPECT_EQ(x, 9.0) << metin;
+  }
+  EXPECT_TRUE(SayiMi(QStringLiteral("12")));
+}
+
 TEST_F(Yardimci, SayiOkuAyiraclariIzler) {
   Bolge().ondalik = QLatin1Char('.');
   Bolge().binlik = QLatin1Char(',');
@@ -172,7 +190,8 @@ TEST(Yaziyla, TablodakiTutarlar) {
       {1000000, QStringLiteral("BİRMİLYON  Yeni Lira ")},
       {1001000, QStringLiteral("BİRMİLYON BİN Yeni Lira ")},
       {1234567.89,
-       QStringLiteral("BİRMİLYON İKİYÜZOTUZDÖRTBİNBEŞYÜZALTMIŞYEDİ Yeni Lira SEKSENDOKUZ Yeni Kuruş")},
+       QStringLiteral(
+           "BİRMİLYON İKİYÜZOTUZDÖRTBİNBEŞYÜZALTMIŞYEDİ Yeni Lira SEKSENDOKUZ Yeni Kuruş")},
       {0.5, QStringLiteral(" Yeni Lira ELLİ Yeni Kuruş")},
       {-5, QStringLiteral("Eksi BEŞ Yeni Lira ")},
       {0, QStringLiteral(" Yeni Lira ")},
@@ -180,11 +199,11 @@ TEST(Yaziyla, TablodakiTutarlar) {
       {1000000000000.0, QStringLiteral("BİRTRİLYON  Yeni Lira ")},
       {2001001001.0, QStringLiteral("İKİMİLYAR BİRMİLYON BİNBİR Yeni Lira ")},
       {999999999999999.0,
-       QStringLiteral("DOKUZYÜZDOKSANDOKUZTRİLYON DOKUZYÜZDOKSANDOKUZMİLYAR "
-                      "DOKUZYÜZDOKSANDOKUZMİLYON DOKUZYÜZDOKSANDOKUZBİNDOKUZYÜZDOKSANDOKUZ Yeni Lira ")},
+       QStringLiteral(
+           "DOKUZYÜZDOKSANDOKUZTRİLYON DOKUZYÜZDOKSANDOKUZMİLYAR "
+           "DOKUZYÜZDOKSANDOKUZMİLYON DOKUZYÜZDOKSANDOKUZBİNDOKUZYÜZDOKSANDOKUZ Yeni Lira ")},
   };
-  for (const auto& [tutar, metin] : ornekler)
-    EXPECT_EQ(YaziyaCevir(tutar), metin) << tutar;
+  for (const auto& [tutar, metin] : ornekler) EXPECT_EQ(YaziyaCevir(tutar), metin) << tutar;
 }
 
 TEST(Yaziyla, UcHane) {
