@@ -29,7 +29,7 @@
 #include "core/Izgara.h"
 #include "db/Kayitlar.h"
 
-namespace contract {
+namespace master {
 class MusteriListesi;
 }
 
@@ -193,7 +193,7 @@ class frmSozles : public ekran::Form {
   // Writes the line of the entry (insert or update).
   void DetayYaz();
 
-  contract::MusteriListesi* musteriler_;
+  master::MusteriListesi* musteriler_;
   QList<QLabel*> etiketler_;
   bool musteriBazinda_ = false;
   // Sort key of the contract on show as it was read, to tell whether a save
