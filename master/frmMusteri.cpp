@@ -54,32 +54,6 @@ void AramaListesi(QComboBox* c, master::MusteriListesi* model) {
   if (auto* v = qobject_cast<QListView*>(c->view())) v->setUniformItemSizes(true);
 }
 
-// The customer saved under the same key, which the old engine compared
-// without regard to case, by Turkish rules: "IŞIK" is "ışık" but not "ısık".
-// The lowest number when there are several; Null when there is none. The
-// candidates are read through the index on Aranacak.
-QVariant AyniAnahtarliMusteri(const QString& anahtar) {
-  const QString aranan = db::TurkceBuyuk(anahtar);
-  QVariant bulunan;
-  for (const db::Aralik& aralik : db::TurkceAraliklar(anahtar)) {
-    db::Kayitlar rs =
-        aralik.ust.isEmpty()
-            ? Genel::Baglanti.Sorgu(
-                  QStringLiteral("SELECT MusteriNo, Aranacak FROM Musteri WHERE Aranacak >= ?"),
-                  {aralik.alt})
-            : Genel::Baglanti.Sorgu(QStringLiteral("SELECT MusteriNo, Aranacak FROM Musteri "
-                                                   "WHERE Aranacak >= ? AND Aranacak < ?"),
-                                    {aralik.alt, aralik.ust});
-    for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext()) {
-      const QVariant no = rs.Fields(0);
-      if (db::TurkceBuyuk(rs.Metin(QStringLiteral("Aranacak"))) == aranan &&
-          (db::NullMu(bulunan) || no.toLongLong() < bulunan.toLongLong()))
-        bulunan = no;
-    }
-  }
-  return bulunan;
-}
-
 }  // namespace
 
 frmMusteri::frmMusteri(QWidget* ust)
@@ -699,7 +673,7 @@ void frmMusteri::cmdSave_Click() {
   }
   const QString anahtar =
       Genel::AramaAnahtari(txtSoyadi->text(), txtAdi->text(), txtBabaAdi->text());
-  const QVariant bulunan = AyniAnahtarliMusteri(anahtar);
+  const QVariant bulunan = master::AyniAnahtarliMusteri(anahtar);
   const bool ayniIsim = !db::NullMu(bulunan);
 
   const QVariant hukuki =
@@ -838,6 +812,30 @@ void frmMusteri::mnuFaturaEk_Click() {
 void frmMusteri::cmdExit_Click() { Kapat(); }
 
 namespace master {
+
+// The candidates are read through the index on Aranacak, a few ranges of the
+// case forms of the key's first letters, and compared here.
+QVariant AyniAnahtarliMusteri(const QString& anahtar) {
+  const QString aranan = db::TurkceBuyuk(anahtar);
+  QVariant bulunan;
+  for (const db::Aralik& aralik : db::TurkceAraliklar(anahtar)) {
+    db::Kayitlar rs =
+        aralik.ust.isEmpty()
+            ? Genel::Baglanti.Sorgu(
+                  QStringLiteral("SELECT MusteriNo, Aranacak FROM Musteri WHERE Aranacak >= ?"),
+                  {aralik.alt})
+            : Genel::Baglanti.Sorgu(QStringLiteral("SELECT MusteriNo, Aranacak FROM Musteri "
+                                                   "WHERE Aranacak >= ? AND Aranacak < ?"),
+                                    {aralik.alt, aralik.ust});
+    for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext()) {
+      const QVariant no = rs.Fields(0);
+      if (db::TurkceBuyuk(rs.Metin(QStringLiteral("Aranacak"))) == aranan &&
+          (db::NullMu(bulunan) || no.toLongLong() < bulunan.toLongLong()))
+        bulunan = no;
+    }
+  }
+  return bulunan;
+}
 
 void MusteriEkranlariKaydet() {
   ekran::Kaydet(QStringLiteral("frmMusteri"), [] { return new frmMusteri; });

@@ -117,6 +117,10 @@ class frmMusteri : public ekran::Form {
 };
 
 namespace master {
+// The customer saved under the key (Aranacak) of a save, which the old engine
+// compared without regard to case, by Turkish rules: "IŞIK" is "ışık" but not
+// "ISIK". The lowest number when there are several; Null when there is none.
+QVariant AyniAnahtarliMusteri(const QString& anahtar);
 // Registers frmMusteri for the main window.
 void MusteriEkranlariKaydet();
 }  // namespace master
