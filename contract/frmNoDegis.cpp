@@ -9,17 +9,10 @@
 #include "contract/frmSozBul.h"
 #include "core/Ekran.h"
 #include "core/Genel.h"
+#include "core/Kutu.h"
 #include "core/Mesaj.h"
 
 namespace {
-
-QLineEdit* Kutu(const char* ad, int sinir) {
-  auto* k = new QLineEdit;
-  k->setObjectName(QString::fromLatin1(ad));
-  k->setMaxLength(sinir);
-  ekran::MetinSecKur(k);
-  return k;
-}
 
 // The number in the box, or nothing after telling the clerk why it isn't one.
 std::optional<qint32> Numara(QLineEdit* kutu, const QString& hangisi) {
@@ -43,10 +36,10 @@ bool SozlesmeVar(const QString& seri, qint32 no) {
 
 frmNoDegis::frmNoDegis() {
   setWindowTitle(QStringLiteral("Sözleşme Numarası Değişikliği"));
-  txtEskiSeri = Kutu("txtEskiSeri", 2);
-  txtEski = Kutu("txtEski", 10);
-  txtYeniSeri = Kutu("txtYeniSeri", 2);
-  txtYeni = Kutu("txtYeni", 10);
+  txtEskiSeri = ekran::Kutu(QStringLiteral("txtEskiSeri"), 2);
+  txtEski = ekran::Kutu(QStringLiteral("txtEski"), 10);
+  txtYeniSeri = ekran::Kutu(QStringLiteral("txtYeniSeri"), 2);
+  txtYeni = ekran::Kutu(QStringLiteral("txtYeni"), 10);
   for (QLineEdit* seri : {txtEskiSeri, txtYeniSeri}) {
     seri->setText(Genel::SozlesmeSeri);
     seri->setFixedWidth(40);

@@ -10,6 +10,7 @@
 #include "core/Ekran.h"
 #include "core/Genel.h"
 #include "core/Koruma.h"
+#include "core/Kutu.h"
 #include "core/Mesaj.h"
 #include "db/Kayitlar.h"
 
@@ -46,17 +47,11 @@ frmSozBul::frmSozBul(QWidget* ust) : QDialog(ust) {
   setObjectName(QStringLiteral("frmSozBul"));
   setWindowTitle(QStringLiteral("Sözleşme Ara"));
 
-  txtSeri = new QLineEdit(Genel::SozlesmeSeri);
-  txtSeri->setObjectName(QStringLiteral("txtSeri"));
-  txtSeri->setMaxLength(2);
+  txtSeri = ekran::Kutu(QStringLiteral("txtSeri"), 2);
+  txtSeri->setText(Genel::SozlesmeSeri);
   txtSeri->setMaximumWidth(48);
-  txtSozlesmeNo = new QLineEdit;
-  txtSozlesmeNo->setObjectName(QStringLiteral("txtSozlesmeNo"));
-  txtSozlesmeNo->setMaxLength(10);
-  for (QLineEdit* k : {txtSeri, txtSozlesmeNo}) {
-    ekran::MetinSecKur(k);
-    ekran::EnterKur(k, [this] { OKButton_Click(); });
-  }
+  txtSozlesmeNo = ekran::Kutu(QStringLiteral("txtSozlesmeNo"), 10);
+  for (QLineEdit* k : {txtSeri, txtSozlesmeNo}) ekran::EnterKur(k, [this] { OKButton_Click(); });
   lstSonuc = new QListWidget;
   lstSonuc->setObjectName(QStringLiteral("lstSonuc"));
   ekran::EnterKur(lstSonuc, [this] { lstSonuc_DblClick(); });

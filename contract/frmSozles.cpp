@@ -5,7 +5,6 @@
 
 #include "contract/frmSozles.h"
 
-#include <QAbstractListModel>
 #include <QApplication>
 #include <QFocusEvent>
 #include <QGridLayout>
@@ -22,74 +21,13 @@
 #include "core/Ekran.h"
 #include "core/Genel.h"
 #include "core/Koruma.h"
+#include "core/Kutu.h"
 #include "core/Mesaj.h"
-
-namespace contract {
-
-// The customers of cmbAd: the name to show and the customer's number as item
-// data. A plain list model, so that thirty thousand names go in at once.
-class MusteriListesi : public QAbstractListModel {
- public:
-  struct Oge {
-    QString ad;
-    qint64 no;
-  };
-
-  using QAbstractListModel::QAbstractListModel;
-
-  void Doldur(QVector<Oge> ogeler) {
-    beginResetModel();
-    ogeler_ = std::move(ogeler);
-    endResetModel();
-  }
-
-  int Adet() const { return int(ogeler_.size()); }
-  const Oge& At(int satir) const { return ogeler_[satir]; }
-
-  int NoSatiri(qint64 no) const {
-    for (int i = 0; i < ogeler_.size(); ++i)
-      if (ogeler_[i].no == no) return i;
-    return -1;
-  }
-
-  // The entry of a typed name: as typed, else in any case by Turkish rules.
-  int AdSatiri(const QString& ad) const {
-    for (int i = 0; i < ogeler_.size(); ++i)
-      if (ogeler_[i].ad == ad) return i;
-    const QString buyuk = db::TurkceBuyuk(ad);
-    for (int i = 0; i < ogeler_.size(); ++i)
-      if (db::TurkceBuyuk(ogeler_[i].ad) == buyuk) return i;
-    return -1;
-  }
-
-  int rowCount(const QModelIndex& ust = {}) const override {
-    return ust.isValid() ? 0 : int(ogeler_.size());
-  }
-
-  QVariant data(const QModelIndex& i, int rol) const override {
-    if (!i.isValid() || i.row() >= ogeler_.size()) return {};
-    if (rol == Qt::DisplayRole || rol == Qt::EditRole) return ogeler_[i.row()].ad;
-    if (rol == Qt::UserRole) return ogeler_[i.row()].no;
-    return {};
-  }
-
- private:
-  QVector<Oge> ogeler_;
-};
-
-}  // namespace contract
+#include "master/MusteriListesi.h"
 
 namespace {
 
 const QColor kZemin(255, 192, 128);
-
-QLineEdit* Kutu(const QString& ad, int sinir = 0) {
-  auto* k = new QLineEdit;
-  k->setObjectName(ad);
-  if (sinir > 0) k->setMaxLength(sinir);
-  ekran::MetinSecKur(k);
-  return k;
-}
 
 QPushButton* Dugme(const QString& ad, const QString& yazi) {
   auto* d = new QPushButton(yazi);
@@ -121,7 +59,7 @@ QString SayiMetni(const QVariant& v) {
 }  // namespace
 
 frmSozles::frmSozles(QWidget* ust)
-    : ekran::Form(ust), musteriler_(new contract::MusteriListesi(this)) {
+    : ekran::Form(ust), musteriler_(new master::MusteriListesi(this)) {
   Kur();
   KurDavranis();
 }
@@ -151,8 +89,7 @@ void frmSozles::Kur() {
   lblSoyadAd = etiket(QStringLiteral("Soyad, Ad:"));
   cmbAd = new QComboBox;
   cmbAd->setObjectName(QStringLiteral("cmbAd"));
-  cmbAd->setEditable(true);
-  cmbAd->setInsertPolicy(QComboBox::NoInsert);
+  ekran::AnahtarListesi(cmbAd);
   cmbAd->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   cmbAd->setModel(musteriler_);
   cmbAd->setMaxVisibleItems(20);
@@ -177,28 +114,27 @@ void frmSozles::Kur() {
   }
 
   // --- the contract
-  txtTarih = Kutu(QStringLiteral("txtTarih"));
-  txtSozlesmeNo = Kutu(QStringLiteral("txtSozlesmeNo"), 10);
+  txtTarih = ekran::Kutu(QStringLiteral("txtTarih"));
+  txtSozlesmeNo = ekran::Kutu(QStringLiteral("txtSozlesmeNo"), 10);
   txtSozlesmeNo->setReadOnly(true);
   cmdSozNoBul = Dugme(QStringLiteral("cmdSozNoBul"), QStringLiteral("?"));
-  txtTutar = Kutu(QStringLiteral("txtTutar"), 20);
-  txtFaizTutar = Kutu(QStringLiteral("txtFaizTutar"), 20);
-  txtOdenecek = Kutu(QStringLiteral("txtOdenecek"), 20);
+  txtTutar = ekran::Kutu(QStringLiteral("txtTutar"), 20);
+  txtFaizTutar = ekran::Kutu(QStringLiteral("txtFaizTutar"), 20);
+  txtOdenecek = ekran::Kutu(QStringLiteral("txtOdenecek"), 20);
   txtOdenecek->setReadOnly(true);
   for (QLineEdit* k : {txtTutar, txtFaizTutar, txtOdenecek}) k->setAlignment(Qt::AlignRight);
   Frame1 = new QGroupBox(QStringLiteral("Oranlar"));
   Frame1->setObjectName(QStringLiteral("Frame1"));
-  txtFaizOran = Kutu(QStringLiteral("txtFaizOran"), 10);
-  txtGecikmeOran = Kutu(QStringLiteral("txtGecikmeOran"), 10);
-  txtIskontoOran = Kutu(QStringLiteral("txtIskontoOran"), 10);
-  txtValor = Kutu(QStringLiteral("txtValor"), 2);
+  txtFaizOran = ekran::Kutu(QStringLiteral("txtFaizOran"), 10);
+  txtGecikmeOran = ekran::Kutu(QStringLiteral("txtGecikmeOran"), 10);
+  txtIskontoOran = ekran::Kutu(QStringLiteral("txtIskontoOran"), 10);
+  txtValor = ekran::Kutu(QStringLiteral("txtValor"), 2);
   chkHesapla = new QCheckBox(QStringLiteral("Hesapla"));
   chkHesapla->setObjectName(QStringLiteral("chkHesapla"));
   cmbDoviz = new QComboBox;
   cmbDoviz->setObjectName(QStringLiteral("cmbDoviz"));
-  cmbDoviz->setEditable(true);
-  cmbDoviz->setInsertPolicy(QComboBox::NoInsert);
-  cmbDoviz->lineEdit()->setMaxLength(3);
+  ekran::AnahtarListesi(cmbDoviz);
+  ekran::SinirKur(cmbDoviz->lineEdit(), 3);
   lblFaizGun = etiket(QString());
   lblFaizGun->setObjectName(QStringLiteral("lblFaizGun"));
   lblFaizGun->setMinimumWidth(harf * 14);
@@ -263,14 +199,14 @@ void frmSozles::Kur() {
   cmbTip->setObjectName(QStringLiteral("cmbTip"));
   cmbTip->addItems({QStringLiteral("Çek"), QStringLiteral("Senet")});
   cmbTip->setCurrentIndex(-1);
-  txtKesideci = Kutu(QStringLiteral("txtKesideci"), 50);
-  txtBanka = Kutu(QStringLiteral("txtBanka"), 20);
-  txtSube = Kutu(QStringLiteral("txtSube"), 20);
-  txtHesapNo = Kutu(QStringLiteral("txtHesapNo"), 20);
-  txtCekNo = Kutu(QStringLiteral("txtCekNo"), 20);
-  txtVade = Kutu(QStringLiteral("txtVade"));
-  txtGun = Kutu(QStringLiteral("txtGun"), 3);
-  txtMeblag = Kutu(QStringLiteral("txtMeblag"));
+  txtKesideci = ekran::Kutu(QStringLiteral("txtKesideci"), 50);
+  txtBanka = ekran::Kutu(QStringLiteral("txtBanka"), 20);
+  txtSube = ekran::Kutu(QStringLiteral("txtSube"), 20);
+  txtHesapNo = ekran::Kutu(QStringLiteral("txtHesapNo"), 20);
+  txtCekNo = ekran::Kutu(QStringLiteral("txtCekNo"), 20);
+  txtVade = ekran::Kutu(QStringLiteral("txtVade"));
+  txtGun = ekran::Kutu(QStringLiteral("txtGun"), 3);
+  txtMeblag = ekran::Kutu(QStringLiteral("txtMeblag"));
   txtMeblag->setAlignment(Qt::AlignRight);
   cmdDetayEkle = Dugme(QStringLiteral("cmdDetayEkle"), QStringLiteral("Ekle"));
   cmdVazgec = Dugme(QStringLiteral("cmdVazgec"), QStringLiteral("Vazgeç"));
@@ -503,17 +439,14 @@ void frmSozles::MusteriDoldur() {
       QStringLiteral("SELECT MusteriNo, Soyadi, Adi, Bulunacak FROM MusteriQry"));
   const int adet = std::min(rsMusteri.RecordCount(), kMusteriSiniri);
   const int ad = rsMusteri.AlanNo(QStringLiteral("Bulunacak"));
-  QVector<contract::MusteriListesi::Oge> ogeler;
+  QVector<master::MusteriListesi::Oge> ogeler;
   ogeler.reserve(adet);
   for (int i = 0; i < adet; ++i) {
     const QVariant v = rsMusteri.Deger(i, ad);
     ogeler.push_back(
         {db::NullMu(v) ? QString() : v.toString(), rsMusteri.Deger(i, 0).toLongLong()});
   }
-  std::stable_sort(ogeler.begin(), ogeler.end(), [](const auto& a, const auto& b) {
-    return db::TurkceKarsilastir(a.ad, b.ad) < 0;
-  });
-  musteriler_->Doldur(std::move(ogeler));
+  musteriler_->SiraliDoldur(std::move(ogeler));
   cmbAd->setCurrentIndex(-1);
   rsMusteri.MoveFirst();
 }
@@ -678,7 +611,7 @@ void frmSozles::MusteriBul() {
     return;
   }
   rsMusteri.Move(bulunan);
-  const int satir = musteriler_->NoSatiri(no);
+  const int satir = musteriler_->DegerSatiri(no);
   if (satir >= 0) {
     cmbAd->setCurrentIndex(satir);
   } else {  // beyond the customers the list takes
@@ -691,7 +624,7 @@ int frmSozles::SeciliMusteri() const {
   const QString yazi = cmbAd->currentText();
   const int i = cmbAd->currentIndex();
   if (i >= 0 && cmbAd->itemText(i) == yazi) return i;
-  return yazi.isEmpty() ? -1 : musteriler_->AdSatiri(yazi);
+  return yazi.isEmpty() ? -1 : musteriler_->Bul(yazi);
 }
 
 void frmSozles::cmbAd_GotFocus() {
@@ -712,7 +645,7 @@ bool frmSozles::cmbAd_Validate() {
     return false;
   }
   if (cmbAd->currentIndex() != i) cmbAd->setCurrentIndex(i);
-  txtMusteriNo->setText(QString::number(musteriler_->At(i).no));
+  txtMusteriNo->setText(QString::number(musteriler_->At(i).deger));
   return true;
 }
 
@@ -725,7 +658,7 @@ void frmSozles::cmdBilgiGoster_Click() {
     return;
   }
   cmbAd->setCurrentIndex(i);
-  txtMusteriNo->setText(QString::number(musteriler_->At(i).no));
+  txtMusteriNo->setText(QString::number(musteriler_->At(i).deger));
   BilgiBul();
 }
 

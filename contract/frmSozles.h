@@ -29,7 +29,7 @@
 #include "core/Izgara.h"
 #include "db/Kayitlar.h"
 
-namespace contract {
+namespace master {
 class MusteriListesi;
 }
 
@@ -208,7 +208,7 @@ class frmSozles : public ekran::Form {
   // Writes the line of the entry (insert or update).
   void DetayYaz();
 
-  contract::MusteriListesi* musteriler_;
+  master::MusteriListesi* musteriler_;
   QList<QLabel*> etiketler_;
   bool musteriBazinda_ = false;
 };

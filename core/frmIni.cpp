@@ -8,16 +8,15 @@
 
 #include "core/Ekran.h"
 #include "core/Genel.h"
+#include "core/Kutu.h"
 #include "core/Mesaj.h"
 
 namespace {
 
-QLineEdit* Kutu(const char* ad, int sinir = 0) {
-  auto* k = new QLineEdit;
-  k->setObjectName(QString::fromLatin1(ad));
-  if (sinir > 0) k->setMaxLength(sinir);
+// The number boxes are narrow; the printer boxes take the width they get.
+QLineEdit* AyarKutusu(const char* ad, int sinir = 0) {
+  QLineEdit* k = ekran::Kutu(QString::fromLatin1(ad), sinir);
   k->setMaximumWidth(70);
-  ekran::MetinSecKur(k);
   return k;
 }
 
@@ -44,19 +43,19 @@ frmIni::frmIni() {
   Frame1 = new QGroupBox(QStringLiteral("Fatura Yazıcı Ayarları"));
   Frame1->setObjectName(QStringLiteral("Frame1"));
   cmbFatura = YaziciListesi("cmbFatura");
-  txtFatura = Kutu("txtFatura");
+  txtFatura = AyarKutusu("txtFatura");
   txtFatura->setMaximumWidth(QWIDGETSIZE_MAX);
-  txtBasBosluk = Kutu("txtBasBosluk");
-  txtSonBosluk = Kutu("txtSonBosluk");
-  txtIsimBas = Kutu("txtIsimBas", 2);
-  txtTarihBas = Kutu("txtTarihBas", 2);
-  txtVergiBas = Kutu("txtVergiBas", 2);
-  txtTarihAtla = Kutu("txtTarihAtla", 2);
-  txtVergiAtla = Kutu("txtVergiAtla", 2);
-  txtTutarSatir = Kutu("txtTutarSatir", 2);
-  txtTutarBosluk = Kutu("txtTutarBosluk", 2);
-  txtDetayAtla = Kutu("txtDetayAtla", 2);
-  txtYeniSayfaAtla = Kutu("txtYeniSayfaAtla", 2);
+  txtBasBosluk = AyarKutusu("txtBasBosluk");
+  txtSonBosluk = AyarKutusu("txtSonBosluk");
+  txtIsimBas = AyarKutusu("txtIsimBas", 2);
+  txtTarihBas = AyarKutusu("txtTarihBas", 2);
+  txtVergiBas = AyarKutusu("txtVergiBas", 2);
+  txtTarihAtla = AyarKutusu("txtTarihAtla", 2);
+  txtVergiAtla = AyarKutusu("txtVergiAtla", 2);
+  txtTutarSatir = AyarKutusu("txtTutarSatir", 2);
+  txtTutarBosluk = AyarKutusu("txtTutarBosluk", 2);
+  txtDetayAtla = AyarKutusu("txtDetayAtla", 2);
+  txtYeniSayfaAtla = AyarKutusu("txtYeniSayfaAtla", 2);
   chkSayfaBasi = Kutucuk("chkSayfaBasi", QStringLiteral("Sayfa sonunda yeni sayfa işareti gönder"));
   chkPulBedeli = Kutucuk("chkPulBedeli", QStringLiteral("Pul Bedelini Yazdır"));
 
@@ -92,11 +91,11 @@ frmIni::frmIni() {
   Frame2 = new QGroupBox(QStringLiteral("Sözleşme Ayarları"));
   Frame2->setObjectName(QStringLiteral("Frame2"));
   cmbSozlesme = YaziciListesi("cmbSozlesme");
-  txtSozlesme = Kutu("txtSozlesme");
+  txtSozlesme = AyarKutusu("txtSozlesme");
   txtSozlesme->setMaximumWidth(QWIDGETSIZE_MAX);
-  txtIlave = Kutu("txtIlave");
-  txtLimitAdet = Kutu("txtLimitAdet");
-  txtDetayBasBosluk = Kutu("txtDetayBasBosluk");
+  txtIlave = AyarKutusu("txtIlave");
+  txtLimitAdet = AyarKutusu("txtLimitAdet");
+  txtDetayBasBosluk = AyarKutusu("txtDetayBasBosluk");
   chkHesapla = Kutucuk("chkHesapla", QStringLiteral("Faiz Miktarını Hesapla"));
   chkHaftaSonu = Kutucuk("chkHaftaSonu", QStringLiteral("Hafta Sonunu Dikkate Al"));
   chkOrtalamaGun = Kutucuk("chkOrtalamaGun", QStringLiteral("Ortalama Günü Tam Yazdır"));

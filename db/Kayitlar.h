@@ -124,4 +124,17 @@ int TurkceKarsilastir(const QString& a, const QString& b);
 // Upper case by Turkish rules (i -> İ, ı -> I).
 QString TurkceBuyuk(const QString& s);
 
+// Ranges [alt, ust) of texts in the engine's own (binary, code point) order
+// that together hold every text equal to `metin` by Turkish case rules, that
+// is with the same TurkceBuyuk ("ışık" and "IŞIK", not "ISIK"). A query of
+// "col >= alt AND col < ust" for each range then reads the candidates through
+// a plain index on the column; the caller compares them with TurkceBuyuk.
+// The ranges cover the case forms of the first letters: at most `enFazla` of
+// them, however long the text.
+struct Aralik {
+  QString alt;
+  QString ust;  // empty: no upper end
+};
+std::vector<Aralik> TurkceAraliklar(const QString& metin, int enFazla = 16);
+
 }  // namespace db

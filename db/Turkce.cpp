@@ -2,7 +2,10 @@
 
 #include <QChar>
 #include <QString>
+#include <algorithm>
 #include <cstdint>
+#include <unordered_map>
+#include <vector>
 
 #include "db/Kayitlar.h"
 
@@ -192,6 +195,92 @@ void BuyukKodla(const char* p, std::size_t n, std::u32string& hedef) {
 }  // namespace db::turkce
 
 namespace db {
+
+namespace {
+
+// Every character with the same upper case as `c` by Turkish rules, `c`
+// among them: "i" and "İ", "ı" and "I", "s", "S" and the long s.
+std::vector<char32_t> Esler(char32_t c) {
+  // Characters by their upper case, for those that differ from it; made once.
+  static const std::unordered_map<char32_t, std::vector<char32_t>> kucukler = [] {
+    std::unordered_map<char32_t, std::vector<char32_t>> m;
+    for (char32_t x = 0; x <= 0x10FFFF; ++x) {
+      if (x >= 0xD800 && x < 0xE000) continue;
+      const char32_t b = turkce::Buyuk(x);
+      if (b != x) m[b].push_back(x);
+    }
+    return m;
+  }();
+  const char32_t buyuk = turkce::Buyuk(c);
+  std::vector<char32_t> esler;
+  if (turkce::Buyuk(buyuk) == buyuk) esler.push_back(buyuk);
+  if (auto it = kucukler.find(buyuk); it != kucukler.end())
+    esler.insert(esler.end(), it->second.begin(), it->second.end());
+  return esler;
+}
+
+void Ekle(QString& s, char32_t c) {
+  if (QChar::requiresSurrogates(c)) {
+    s += QChar(QChar::highSurrogate(c));
+    s += QChar(QChar::lowSurrogate(c));
+  } else {
+    s += QChar(char16_t(c));
+  }
+}
+
+template <class It>
+QString Yazi(It bas, It son) {
+  QString s;
+  for (; bas != son; ++bas) Ekle(s, *bas);
+  return s;
+}
+
+// The first text after all those that begin with `onek`: its last character
+// one higher (surrogates skipped). A last character that can't grow goes, and
+// the one before it grows; empty when there is no such text.
+QString OnekSonu(std::vector<char32_t> onek) {
+  while (!onek.empty()) {
+    char32_t son = onek.back();
+    onek.pop_back();
+    if (son < 0x10FFFF) {
+      onek.push_back(son + 1 == 0xD800 ? 0xE000 : son + 1);
+      return Yazi(onek.begin(), onek.end());
+    }
+  }
+  return QString();
+}
+
+}  // namespace
+
+std::vector<Aralik> TurkceAraliklar(const QString& metin, int enFazla) {
+  // The case forms of the first letters, as long as their combinations stay
+  // within the limit.
+  std::vector<std::vector<char32_t>> harfler;
+  std::size_t adet = 1;
+  turkce::Utf16 okuyucu(metin);
+  char32_t c;
+  while (okuyucu.Sonraki(c)) {
+    std::vector<char32_t> esler = Esler(c);
+    if (!harfler.empty() && adet * esler.size() > std::size_t(std::max(enFazla, 1))) break;
+    adet *= esler.size();
+    harfler.push_back(std::move(esler));
+  }
+  // The empty text: only itself.
+  if (harfler.empty()) return {{QString(), QString(QChar(1))}};
+
+  std::vector<Aralik> araliklar;
+  std::vector<std::size_t> secim(harfler.size(), 0);
+  std::vector<char32_t> onek(harfler.size());
+  for (;;) {
+    for (std::size_t i = 0; i < harfler.size(); ++i) onek[i] = harfler[i][secim[i]];
+    araliklar.push_back({Yazi(onek.begin(), onek.end()), OnekSonu(onek)});
+    // The next combination.
+    std::size_t i = harfler.size();
+    while (i > 0 && ++secim[i - 1] == harfler[i - 1].size()) secim[--i] = 0;
+    if (i == 0) break;
+  }
+  return araliklar;
+}
 
 int TurkceKarsilastir(const QString& a, const QString& b) {
   return turkce::Sirala(turkce::Utf16(a), turkce::Utf16(b));

@@ -7,6 +7,7 @@
 
 #include "core/Ekran.h"
 #include "core/Genel.h"
+#include "core/Kutu.h"
 #include "master/frmMusteri.h"
 
 namespace {
@@ -32,8 +33,7 @@ frmBul::frmBul(frmMusteri* musteri, QWidget* ust) : QDialog(ust), musteri_(muste
   cmbKriter->setObjectName(QStringLiteral("cmbKriter"));
   cmbKriter->addItems({QStringLiteral("Ad Soyad"), QStringLiteral("Adres")});
   cmbKriter->setCurrentIndex(0);
-  txtAranacak = new QLineEdit;
-  txtAranacak->setObjectName(QStringLiteral("txtAranacak"));
+  txtAranacak = ekran::Kutu(QStringLiteral("txtAranacak"), 0, false);
   ekran::BuyukHarfKur(txtAranacak);
   chkAraTip = new QCheckBox(QStringLiteral("İçinde .... Geçen Kayıtları Listele"));
   chkAraTip->setObjectName(QStringLiteral("chkAraTip"));

@@ -6,20 +6,13 @@
 
 #include "core/Ekran.h"
 #include "core/Genel.h"
+#include "core/Kutu.h"
 #include "core/Mesaj.h"
 
 namespace {
 
 // The province the lists stand on when nothing else is known: the 34th.
 constexpr int kVarsayilanIl = 33;
-
-QLineEdit* Kutu(const char* ad, int sinir) {
-  auto* k = new QLineEdit;
-  k->setObjectName(QString::fromLatin1(ad));
-  k->setMaxLength(sinir);
-  ekran::MetinSecKur(k);
-  return k;
-}
 
 QString Metin(const db::Kayitlar& rs, const char* alan) {
   return rs.Metin(QString::fromLatin1(alan));
@@ -29,21 +22,21 @@ QString Metin(const db::Kayitlar& rs, const char* alan) {
 
 frmFirma::frmFirma() {
   setWindowTitle(QStringLiteral("Velmora Firma Bilgileri"));
-  txtKurulusKod = Kutu("txtKurulusKod", 2);
-  txtVergiKimlikNo = Kutu("txtVergiKimlikNo", 10);
+  txtKurulusKod = ekran::Kutu(QStringLiteral("txtKurulusKod"), 2);
+  txtVergiKimlikNo = ekran::Kutu(QStringLiteral("txtVergiKimlikNo"), 10);
   cmbTur = new QComboBox;
   cmbTur->setObjectName(QStringLiteral("cmbTur"));
   cmbTur->addItems({QStringLiteral("Kişi"), QStringLiteral("Kuruluş")});
-  txtSoyadi = Kutu("txtSoyadi", 20);
-  txtAdi = Kutu("txtAdi", 16);
-  txtBabaAdi = Kutu("txtBabaAdi", 16);
-  txtAdres = Kutu("txtAdres", 50);
-  txtIlce = Kutu("txtIlce", 15);
+  txtSoyadi = ekran::Kutu(QStringLiteral("txtSoyadi"), 20);
+  txtAdi = ekran::Kutu(QStringLiteral("txtAdi"), 16);
+  txtBabaAdi = ekran::Kutu(QStringLiteral("txtBabaAdi"), 16);
+  txtAdres = ekran::Kutu(QStringLiteral("txtAdres"), 50);
+  txtIlce = ekran::Kutu(QStringLiteral("txtIlce"), 15);
   cmbIl = new QComboBox;
   cmbIl->setObjectName(QStringLiteral("cmbIl"));
-  txtPostaKod = Kutu("txtPostaKod", 5);
-  txtFaturaSeri = Kutu("txtFaturaSeri", 2);
-  txtSozlesmeSeri = Kutu("txtSozlesmeSeri", 2);
+  txtPostaKod = ekran::Kutu(QStringLiteral("txtPostaKod"), 5);
+  txtFaturaSeri = ekran::Kutu(QStringLiteral("txtFaturaSeri"), 2);
+  txtSozlesmeSeri = ekran::Kutu(QStringLiteral("txtSozlesmeSeri"), 2);
   lblSoyadi = new QLabel;
   lblAdi = new QLabel;
   lblBabaAdi = new QLabel;

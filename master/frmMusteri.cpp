@@ -1,6 +1,5 @@
 #include "master/frmMusteri.h"
 
-#include <QAbstractListModel>
 #include <QApplication>
 #include <QFocusEvent>
 #include <QGridLayout>
@@ -12,92 +11,14 @@
 
 #include "core/Ekran.h"
 #include "core/Genel.h"
+#include "core/Kutu.h"
 #include "core/Mesaj.h"
 #include "core/Rapor.h"
+#include "master/MusteriListesi.h"
 #include "master/frmBul.h"
 #include "master/rptEtiket.h"
 
-namespace master {
-
-// The entries of cmbNo or cmbAd: a text and an item value each. A plain list
-// model, so that thirty thousand entries go in at once rather than one by one.
-class ListeModeli : public QAbstractListModel {
- public:
-  struct Oge {
-    QString metin;
-    int deger;
-  };
-
-  using QAbstractListModel::QAbstractListModel;
-
-  void Doldur(QVector<Oge> ogeler) {
-    beginResetModel();
-    ogeler_ = std::move(ogeler);
-    endResetModel();
-  }
-
-  const Oge& At(int satir) const { return ogeler_[satir]; }
-  int Adet() const { return int(ogeler_.size()); }
-
-  int DegerSatiri(int deger) const {
-    for (int i = 0; i < ogeler_.size(); ++i)
-      if (ogeler_[i].deger == deger) return i;
-    return -1;
-  }
-
-  // The entry of that text, as typed or else in any case by Turkish rules.
-  int Bul(const QString& metin) const {
-    for (int i = 0; i < ogeler_.size(); ++i)
-      if (ogeler_[i].metin == metin) return i;
-    const QString buyuk = db::TurkceBuyuk(metin);
-    for (int i = 0; i < ogeler_.size(); ++i)
-      if (db::TurkceBuyuk(ogeler_[i].metin) == buyuk) return i;
-    return -1;
-  }
-
-  // Gives the entry a new text and moves it to its place in the Turkish order.
-  void SiraliDegistir(int satir, const QString& metin) {
-    Oge oge{metin, ogeler_[satir].deger};
-    beginRemoveRows(QModelIndex(), satir, satir);
-    ogeler_.removeAt(satir);
-    endRemoveRows();
-    const auto yer = std::upper_bound(
-        ogeler_.begin(), ogeler_.end(), oge,
-        [](const Oge& a, const Oge& b) { return db::TurkceKarsilastir(a.metin, b.metin) < 0; });
-    const int yeni = int(yer - ogeler_.begin());
-    beginInsertRows(QModelIndex(), yeni, yeni);
-    ogeler_.insert(yeni, std::move(oge));
-    endInsertRows();
-  }
-
-  int rowCount(const QModelIndex& ust = {}) const override {
-    return ust.isValid() ? 0 : int(ogeler_.size());
-  }
-
-  QVariant data(const QModelIndex& i, int rol) const override {
-    if (!i.isValid() || i.row() >= ogeler_.size()) return {};
-    if (rol == Qt::DisplayRole || rol == Qt::EditRole) return ogeler_[i.row()].metin;
-    if (rol == Qt::UserRole) return ogeler_[i.row()].deger;
-    return {};
-  }
-
- private:
-  QVector<Oge> ogeler_;
-};
-
-}  // namespace master
-
 namespace {
-
-using master::ListeModeli;
-
-QLineEdit* Kutu(const QString& ad, int sinir, bool metinSec = true) {
-  auto* k = new QLineEdit;
-  k->setObjectName(ad);
-  k->setMaxLength(sinir);
-  if (metinSec) ekran::MetinSecKur(k);
-  return k;
-}
 
 QComboBox* Liste(const QString& ad, const QStringList& ogeler = {}) {
   auto* c = new QComboBox;
@@ -123,11 +44,10 @@ void YeriniKoru(QWidget* w) {
   w->setSizePolicy(p);
 }
 
-// The editable lists of numbers and names: no typed text is ever added, and
+// The editable lists of numbers and names: their texts are keys, and
 // nothing measures thirty thousand entries to find a width.
-void AramaListesi(QComboBox* c, ListeModeli* model) {
-  c->setEditable(true);
-  c->setInsertPolicy(QComboBox::NoInsert);
+void AramaListesi(QComboBox* c, master::MusteriListesi* model) {
+  ekran::AnahtarListesi(c);
   c->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   c->setModel(model);
   c->setMaxVisibleItems(20);
@@ -137,7 +57,9 @@ void AramaListesi(QComboBox* c, ListeModeli* model) {
 }  // namespace
 
 frmMusteri::frmMusteri(QWidget* ust)
-    : ekran::Form(ust), noModeli_(new ListeModeli(this)), adModeli_(new ListeModeli(this)) {
+    : ekran::Form(ust),
+      noModeli_(new master::MusteriListesi(this)),
+      adModeli_(new master::MusteriListesi(this)) {
   setWindowTitle(QStringLiteral("Müşteri Giriş"));
   Kur();
 }
@@ -161,20 +83,20 @@ void frmMusteri::Kur() {
   YeriniKoru(frmSearch);
 
   // --- the record
-  txtMusteriNo = Kutu(QStringLiteral("txtMusteriNo"), 20, false);
+  txtMusteriNo = ekran::Kutu(QStringLiteral("txtMusteriNo"), 20, false);
   cmdKodBelirle = Dugme(QStringLiteral("cmdKodBelirle"), QStringLiteral("?"));
-  txtVergiKimlikNo = Kutu(QStringLiteral("txtVergiKimlikNo"), 10);
-  txtVergiDairesi = Kutu(QStringLiteral("txtVergiDairesi"), 20);
-  txtSoyadi = Kutu(QStringLiteral("txtSoyadi"), 20);
-  txtAdi = Kutu(QStringLiteral("txtAdi"), 16);
-  txtBabaAdi = Kutu(QStringLiteral("txtBabaAdi"), 16);
-  txtAdres = Kutu(QStringLiteral("txtAdres"), 50);
-  txtIlce = Kutu(QStringLiteral("txtIlce"), 15);
-  txtPostaKod = Kutu(QStringLiteral("txtPostaKod"), 5);
+  txtVergiKimlikNo = ekran::Kutu(QStringLiteral("txtVergiKimlikNo"), 10);
+  txtVergiDairesi = ekran::Kutu(QStringLiteral("txtVergiDairesi"), 20);
+  txtSoyadi = ekran::Kutu(QStringLiteral("txtSoyadi"), 20);
+  txtAdi = ekran::Kutu(QStringLiteral("txtAdi"), 16);
+  txtBabaAdi = ekran::Kutu(QStringLiteral("txtBabaAdi"), 16);
+  txtAdres = ekran::Kutu(QStringLiteral("txtAdres"), 50);
+  txtIlce = ekran::Kutu(QStringLiteral("txtIlce"), 15);
+  txtPostaKod = ekran::Kutu(QStringLiteral("txtPostaKod"), 5);
   cmbIl = Liste(QStringLiteral("cmbIl"));
   cmbIl->setMaxVisibleItems(20);
-  txtUlkeKod = Kutu(QStringLiteral("txtUlkeKod"), 3);
-  txtTCKimlikNo = Kutu(QStringLiteral("txtTCKimlikNo"), 11);
+  txtUlkeKod = ekran::Kutu(QStringLiteral("txtUlkeKod"), 3);
+  txtTCKimlikNo = ekran::Kutu(QStringLiteral("txtTCKimlikNo"), 11);
   cmbUyruk = Liste(QStringLiteral("cmbUyruk"), {QStringLiteral("TC"), QStringLiteral("Yabancı")});
   cmbHukukiBolum = Liste(QStringLiteral("cmbHukukiBolum"));
   cmbHukukiYapi = Liste(QStringLiteral("cmbHukukiYapi"));
@@ -183,9 +105,9 @@ void frmMusteri::Kur() {
                          QStringLiteral("Kayyım"), QStringLiteral("Vekil")});
   Frame1 = new QGroupBox(QStringLiteral("Vekil "));
   Frame1->setObjectName(QStringLiteral("Frame1"));
-  txtVekilVergiKimlikNo = Kutu(QStringLiteral("txtVekilVergiKimlikNo"), 10, false);
-  txtVekilSoyad = Kutu(QStringLiteral("txtVekilSoyad"), 20, false);
-  txtVekilad = Kutu(QStringLiteral("txtVekilad"), 16, false);
+  txtVekilVergiKimlikNo = ekran::Kutu(QStringLiteral("txtVekilVergiKimlikNo"), 10, false);
+  txtVekilSoyad = ekran::Kutu(QStringLiteral("txtVekilSoyad"), 20, false);
+  txtVekilad = ekran::Kutu(QStringLiteral("txtVekilad"), 16, false);
   YeriniKoru(Frame1);
 
   // Widths follow the limits, so that the clerk sees how much fits.
@@ -566,7 +488,7 @@ void frmMusteri::ComboDoldur() {
       QStringLiteral("SELECT MusteriNo, HukukiDurum, Soyadi, Adi FROM Musteri "
                      "WHERE MusteriNo >= ? ORDER BY MusteriNo LIMIT ?"),
       {rsMusteri.Fields(0), adet});
-  QVector<ListeModeli::Oge> numaralar, adlar;
+  QVector<master::MusteriListesi::Oge> numaralar, adlar;
   numaralar.reserve(rs.RecordCount());
   adlar.reserve(rs.RecordCount());
   for (int i = 0; i < rs.RecordCount(); ++i) {
@@ -577,11 +499,8 @@ void frmMusteri::ComboDoldur() {
     };
     adlar.push_back({ListeAdi(rs.Deger(i, 1), metin(2), metin(3)), i});
   }
-  std::stable_sort(adlar.begin(), adlar.end(), [](const auto& a, const auto& b) {
-    return db::TurkceKarsilastir(a.metin, b.metin) < 0;
-  });
   noModeli_->Doldur(std::move(numaralar));
-  adModeli_->Doldur(std::move(adlar));
+  adModeli_->SiraliDoldur(std::move(adlar));
   rsMusteri.MoveFirst();
 }
 
@@ -620,7 +539,7 @@ bool frmMusteri::NumarayaGit(const QString& no) {
 
 void frmMusteri::cmbAd_Click() {
   if (!AramaAcik || cmbAd->currentIndex() < 0) return;
-  const int deger = adModeli_->At(cmbAd->currentIndex()).deger;
+  const qint64 deger = adModeli_->At(cmbAd->currentIndex()).deger;
   AramaAcik = 0;
   const int noSatiri = noModeli_->DegerSatiri(deger);
   if (noSatiri >= 0) cmbNo->setCurrentIndex(noSatiri);
@@ -687,6 +606,9 @@ void frmMusteri::cmbHukukiBolum_Click() {
   for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext())
     cmbHukukiYapi->addItem(rs.Metin(QStringLiteral("Durum")),
                            rs.Fields(QStringLiteral("DurumKod")));
+  // The first item added to an empty list becomes its selection: a status the
+  // clerk never chose would be saved.
+  cmbHukukiYapi->setCurrentIndex(-1);
 }
 
 qint64 frmMusteri::MusteriNoOku() {
@@ -751,8 +673,7 @@ void frmMusteri::cmdSave_Click() {
   }
   const QString anahtar =
       Genel::AramaAnahtari(txtSoyadi->text(), txtAdi->text(), txtBabaAdi->text());
-  const QVariant bulunan = Genel::Baglanti.Deger(
-      QStringLiteral("SELECT MusteriNo FROM Musteri WHERE Aranacak = ?"), {anahtar});
+  const QVariant bulunan = master::AyniAnahtarliMusteri(anahtar);
   const bool ayniIsim = !db::NullMu(bulunan);
 
   const QVariant hukuki =
@@ -891,6 +812,30 @@ void frmMusteri::mnuFaturaEk_Click() {
 void frmMusteri::cmdExit_Click() { Kapat(); }
 
 namespace master {
+
+// The candidates are read through the index on Aranacak, a few ranges of the
+// case forms of the key's first letters, and compared here.
+QVariant AyniAnahtarliMusteri(const QString& anahtar) {
+  const QString aranan = db::TurkceBuyuk(anahtar);
+  QVariant bulunan;
+  for (const db::Aralik& aralik : db::TurkceAraliklar(anahtar)) {
+    db::Kayitlar rs =
+        aralik.ust.isEmpty()
+            ? Genel::Baglanti.Sorgu(
+                  QStringLiteral("SELECT MusteriNo, Aranacak FROM Musteri WHERE Aranacak >= ?"),
+                  {aralik.alt})
+            : Genel::Baglanti.Sorgu(QStringLiteral("SELECT MusteriNo, Aranacak FROM Musteri "
+                                                   "WHERE Aranacak >= ? AND Aranacak < ?"),
+                                    {aralik.alt, aralik.ust});
+    for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext()) {
+      const QVariant no = rs.Fields(0);
+      if (db::TurkceBuyuk(rs.Metin(QStringLiteral("Aranacak"))) == aranan &&
+          (db::NullMu(bulunan) || no.toLongLong() < bulunan.toLongLong()))
+        bulunan = no;
+    }
+  }
+  return bulunan;
+}
 
 void MusteriEkranlariKaydet() {
   ekran::Kaydet(QStringLiteral("frmMusteri"), [] { return new frmMusteri; });

@@ -14,7 +14,7 @@
 #include "db/Kayitlar.h"
 
 namespace master {
-class ListeModeli;
+class MusteriListesi;
 }
 
 class frmMusteri : public ekran::Form {
@@ -108,8 +108,8 @@ class frmMusteri : public ekran::Form {
   void AdGuncelle(qint64 no, const QString& ad);
   QString ListeAdi(const QVariant& hukukiDurum, const QString& soyadi, const QString& adi) const;
 
-  master::ListeModeli* noModeli_;
-  master::ListeModeli* adModeli_;
+  master::MusteriListesi* noModeli_;
+  master::MusteriListesi* adModeli_;
   // What Goster put into the lists' texts: leaving them unchanged is no pick.
   QString gosterilenNo_, gosterilenAd_;
   // The lists hold entries of deleted customers until they are filled again.
@@ -117,6 +117,10 @@ class frmMusteri : public ekran::Form {
 };
 
 namespace master {
+// The customer saved under the key (Aranacak) of a save, which the old engine
+// compared without regard to case, by Turkish rules: "IŞIK" is "ışık" but not
+// "ISIK". The lowest number when there are several; Null when there is none.
+QVariant AyniAnahtarliMusteri(const QString& anahtar);
 // Registers frmMusteri for the main window.
 void MusteriEkranlariKaydet();
 }  // namespace master

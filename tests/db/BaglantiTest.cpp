@@ -127,6 +127,47 @@ TEST_F(Baglanti, LikeTurkceBuyukKucukHarfVeEscape) {
   EXPECT_EQ(b_.Deger("SELECT ? LIKE ?", {QString(2000, 'a'), "%a%a%a%a%a%a%a%a%a%a%b"}).toInt(), 0);
 }
 
+TEST_F(Baglanti, TurkceAraliklarHerBuyukKucukBicimiIndekstenBulur) {
+  // Keys of the duplicate test, stored in many case forms; the rows a key
+  // stands for are exactly those with the same Turkish upper case.
+  const QStringList anahtarlar = {
+      "ışık",  "IŞIK",   "Işık",   "ISIK",    "isik",     "İŞİK",      "ſahin",
+      "SAHİN", "sahin",  "Şahin",  "ALİVELİ", "alİvElİ",  "AliVeli",   "ALIVELI",
+      "",      u"𝔸li"_s, u"𝔸Lİ"_s, "a",       "A",        "Ab",        u"\U0010FFFFa"_s,
+      "İnce",  "iNCE",   "INCE",   "ınce",    "ALİVELİK", "ALİVELİK1", "0"};
+  for (int i = 0; i < anahtarlar.size(); ++i)
+    b_.Calistir("INSERT INTO Musteri(MusteriNo, Aranacak) VALUES (?, ?)", {i + 1, anahtarlar[i]});
+  for (const int enFazla : {1, 4, 16}) {
+    for (const QString& aranan : anahtarlar) {
+      QStringList beklenen, bulunan;
+      for (const QString& a : anahtarlar)
+        if (db::TurkceBuyuk(a) == db::TurkceBuyuk(aranan)) beklenen << a;
+      const std::vector<db::Aralik> araliklar = db::TurkceAraliklar(aranan, enFazla);
+      EXPECT_LE(araliklar.size(), std::size_t(std::max(enFazla, 3))) << aranan.toStdString();
+      for (const db::Aralik& r : araliklar) {
+        db::Kayitlar rs =
+            r.ust.isEmpty()
+                ? b_.Sorgu("SELECT Aranacak FROM Musteri WHERE Aranacak >= ?", {r.alt})
+                : b_.Sorgu("SELECT Aranacak FROM Musteri WHERE Aranacak >= ? AND Aranacak < ?",
+                           {r.alt, r.ust});
+        for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext())
+          if (db::TurkceBuyuk(rs.Metin("Aranacak")) == db::TurkceBuyuk(aranan))
+            bulunan << rs.Metin("Aranacak");
+      }
+      beklenen.sort();
+      bulunan.sort();
+      EXPECT_EQ(bulunan, beklenen) << enFazla << " " << aranan.toStdString();
+    }
+  }
+  // The candidates come through the index.
+  db::Kayitlar plan = b_.Sorgu(
+      "EXPLAIN QUERY PLAN SELECT MusteriNo FROM Musteri WHERE Aranacak >= ? AND Aranacak < ?",
+      {"A", "B"});
+  ASSERT_TRUE(plan.SatirVar());
+  EXPECT_TRUE(plan.Metin("detail").contains("Musteri_Aranacak"))
+      << plan.Metin("detail").toStdString();
+}
+
 // --- Weekday, GunFarki, Val
 
 TEST_F(Baglanti, WeekdayGunFarkiVal) {

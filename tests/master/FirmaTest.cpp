@@ -5,6 +5,7 @@
 #include "core/Ekran.h"
 #include "core/Genel.h"
 #include "master/frmFirma.h"
+#include "tests/support/Klavye.h"
 #include "tests/support/Ortam.h"
 
 namespace {
@@ -92,6 +93,26 @@ TEST_F(Firma, IptalKayitliHaliGeriGetirirSinirlarAsilmaz) {
     kutu->insert(QString(sinir + 5, QChar(0x015E)));
     EXPECT_EQ(kutu->text().size(), sinir) << kutu->objectName().toStdString();
   }
+}
+
+TEST_F(Firma, SinirdanUzunKayitliDegerlerOlduguGibiKalir) {
+  const QString unvan = QStringLiteral("ÇAĞDAŞ GÜNEŞ FİNANS VE DANIŞMANLIK");
+  Genel::Baglanti.Calistir(QStringLiteral("UPDATE Firma SET Soyadi = ?, FaturaSeri = 'ABC'"),
+                           {unvan});
+  auto f = Ac();
+  EXPECT_EQ(f->txtSoyadi->text(), unvan);
+  EXPECT_EQ(f->txtFaturaSeri->text(), QStringLiteral("ABC"));
+  // Typing cannot make the longer value longer still; deleting shortens it,
+  // and then the limit holds again.
+  QTest::keyClick(f->txtFaturaSeri, Qt::Key_End);
+  test::Tusla(f->txtFaturaSeri, QStringLiteral("D"));
+  EXPECT_EQ(f->txtFaturaSeri->text(), QStringLiteral("ABC"));
+  QTest::keyClick(f->txtFaturaSeri, Qt::Key_Backspace);
+  test::Tusla(f->txtFaturaSeri, QStringLiteral("X"));
+  EXPECT_EQ(f->txtFaturaSeri->text(), QStringLiteral("AB"));
+  f->cmdUpdate_Click();
+  EXPECT_EQ(Sutun("Soyadi").toString(), unvan);
+  EXPECT_EQ(Sutun("FaturaSeri").toString(), QStringLiteral("AB"));
 }
 
 TEST_F(Firma, KisaIlListesiIlkIleDuser) {

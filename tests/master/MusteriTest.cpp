@@ -11,6 +11,7 @@
 #include "core/Genel.h"
 #include "db/Kayitlar.h"
 #include "master/frmMusteri.h"
+#include "tests/support/Klavye.h"
 #include "tests/support/Ortam.h"
 
 using namespace Qt::StringLiterals;
@@ -303,6 +304,89 @@ TEST_F(MusteriTest, ListelerdenSecilir) {
   EXPECT_EQ(f->txtMusteriNo->text(), u"1"_s);
 }
 
+TEST_F(MusteriTest, HukukiYapiSecilmedikceNullKalir) {
+  auto f = Ac();
+  f->cmdNew_Click();
+  Yaz(f->txtMusteriNo, "2", f->txtSoyadi, "TOPRAK");
+  // The category picked by its first letter fills the statuses; none is picked.
+  Birak(f->cmbHukukiBolum);
+  test::Tusla(f->cmbHukukiBolum, u"S"_s);
+  EXPECT_EQ(Secimler(*f), u"İstanbul|TC|Sermaye Şirketi||Yok|-"_s);
+  EXPECT_EQ(Ogeler(f->cmbHukukiYapi),
+            u"Anonim Şirket,Limited Şirket,Sermayesi Paylara Bölünmüş Komandit Şirket"_s);
+  f->cmdSave_Click();
+  EXPECT_EQ(Satir(2, "HukukiDurum"), u"NULL"_s);
+
+  // A status the clerk picks is stored; another category drops it again.
+  f->cmdEdit_Click();
+  Birak(f->cmbHukukiYapi);
+  test::Tusla(f->cmbHukukiYapi, u"L"_s);
+  f->cmdSave_Click();
+  EXPECT_EQ(Satir(2, "HukukiDurum"), u"11"_s);
+  f->cmdEdit_Click();
+  Birak(f->cmbHukukiBolum);
+  QTest::keyClick(f->cmbHukukiBolum, Qt::Key_Up);
+  EXPECT_EQ(Secimler(*f), u"İstanbul|TC|Gerçek Kişi||Yok|-"_s);
+  f->cmdSave_Click();
+  EXPECT_EQ(Satir(2, "HukukiDurum"), u"NULL"_s);
+  EXPECT_EQ(Kutular(), u""_s);
+}
+
+TEST_F(MusteriTest, ListeyeYazilanTamOlarakAranir) {
+  Musteri(5, "KARACA", "ALİ");
+  Musteri(120, "KARA", "AHMET");
+  auto f = Ac();
+  // 120 begins with 12, but 12 is no customer.
+  test::ListeyeYaz(f->cmbNo, u"12"_s);
+  EXPECT_EQ(Kutular(), u"Kritik Arama: Aranan Kayıt Bulunamadı!"_s);
+  EXPECT_EQ(Kayit(*f), u"5|KARACA|ALİ|Kayıt: 1/2"_s);
+  // The beginning of a name picks nothing.
+  test::ListeyeYaz(f->cmbAd, u"AHM"_s);
+  EXPECT_EQ(Kutular(), u""_s);
+  EXPECT_EQ(Kayit(*f) + ' ' + f->cmbAd->currentText(), u"5|KARACA|ALİ|Kayıt: 1/2 AHM"_s);
+  // Whole keys: a number, a name in any case.
+  test::ListeyeYaz(f->cmbNo, u"120"_s);
+  EXPECT_EQ(Kayit(*f), u"120|KARA|AHMET|Kayıt: 2/2"_s);
+  test::ListeyeYaz(f->cmbAd, u"ali karaca"_s);
+  EXPECT_EQ(Kayit(*f), u"5|KARACA|ALİ|Kayıt: 1/2"_s);
+  EXPECT_EQ(Kutular(), u""_s);
+  // Nothing typed went into the lists.
+  EXPECT_EQ(Ogeler(f->cmbNo) + ' ' + Ogeler(f->cmbAd), u"5,120 AHMET KARA,ALİ KARACA"_s);
+}
+
+TEST_F(MusteriTest, AyniMusteriBuyukKucukHarfTurkceKurallarla) {
+  struct Durum {
+    const char* kayitli;
+    const char* yazilan;
+    bool ayni;
+  };
+  const Durum durumlar[] = {
+      {"Ali Veli", "ALİ VELİ", true},
+      {"ışık", "IŞIK", true},
+      {"IŞIK", "ışık", true},
+      {"İnce", "iNCE", true},
+      {"ISIK", "ısık", true},
+      {"ſahin", "SAHİN", true},
+      {"ALI", "ali", false},
+      {"IŞIK", "işik", false},
+      {"Ali Veli", "ALİ VELİK", false},
+      {"Ali", "", false},
+  };
+  for (const Durum& d : durumlar) {
+    Genel::Baglanti.Calistir(QStringLiteral("DELETE FROM Musteri"));
+    Musteri(7, QString::fromUtf8(d.kayitli), {});
+    auto f = Ac();
+    f->cmdNew_Click();
+    Yaz(f->txtMusteriNo, "8");
+    Birak(f->txtSoyadi);
+    test::Tusla(f->txtSoyadi, QString::fromUtf8(d.yazilan));
+    f->cmdSave_Click();
+    EXPECT_EQ(Kutular(), d.ayni ? kAyniIsim : QString()) << d.kayitli << " " << d.yazilan;
+    EXPECT_EQ(f->txtMusteriNo->text(), d.ayni ? u"7"_s : u"8"_s) << d.kayitli;
+    EXPECT_EQ(Adet(), d.ayni ? 1 : 2) << d.kayitli;
+  }
+}
+
 TEST_F(MusteriTest, KisiBulListelerinOtesindekiMusteriyiDeGosterir) {
   Genel::Baglanti.Calistir(QStringLiteral(
       "WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM n WHERE x < 30010) "
@@ -366,7 +450,7 @@ TEST_F(MusteriTest, EskiSatirlarVeListeKonumlari) {
   f->cmbHukukiBolum->setCurrentIndex(0);
   f->cmbHukukiBolum_Click();
   f->cmdNext_Click();
-  EXPECT_EQ(Secimler(*f), u"İzmir|Yabancı|Gerçek Kişi|Gerçek Kişi|Kayyım|Vekil"_s);
+  EXPECT_EQ(Secimler(*f), u"İzmir|Yabancı|Gerçek Kişi||Kayyım|Vekil"_s);
   // Moving stops at both ends.
   f->cmdNext_Click();
   EXPECT_EQ(f->lblDurum->text(), u"Kayıt: 2/2"_s);

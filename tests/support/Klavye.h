@@ -1,0 +1,35 @@
+#pragma once
+// A clerk's keyboard: keys sent one by one to where the focus is, Turkish
+// letters too (QTest::keyClicks sends Latin-1 only).
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QtTest/QTest>
+
+namespace test {
+
+// Types `metin` into `alan` key by key.
+inline void Tusla(QWidget* alan, const QString& metin) {
+  for (const QChar c : metin) {
+    if (c.unicode() < 0x80)
+      QTest::keyClick(alan, char(c.unicode()));
+    else
+      QTest::sendKeyEvent(QTest::Click, alan, Qt::Key_unknown, QString(c), Qt::NoModifier);
+  }
+}
+
+// Into a list's text as a clerk types: the focus goes to the list, what
+// stands there is selected and typed over, and `tus` (Enter unless told)
+// goes where the focus is, as the keyboard would send it.
+inline void ListeyeYaz(QComboBox* liste, const QString& metin, Qt::Key tus = Qt::Key_Return) {
+  liste->setFocus();
+  QApplication::processEvents();
+  QTest::keyClick(liste->lineEdit(), Qt::Key_A, Qt::ControlModifier);
+  Tusla(liste->lineEdit(), metin);
+  QWidget* odak = QApplication::focusWidget();
+  if (tus != Qt::Key_unknown) QTest::keyClick(odak ? odak : liste, tus);
+  QApplication::processEvents();
+}
+
+}  // namespace test
