@@ -13,8 +13,8 @@
 
 #include "core/Form.h"
 #include "core/Genel.h"
+#include "core/Koruma.h"
 #include "core/Mesaj.h"
-#include "db/Baglanti.h"
 
 namespace ekran {
 
@@ -306,17 +306,6 @@ void Kaldir(const QString& ad, QWidget* w) {
 
 }  // namespace
 
-void MotorHatasiGoster(const db::Hata& h) {
-  if (h.BaglantiYok()) {
-    mesaj::Kritik(QStringLiteral("Veri tabanı açık değil. Ayarlarınızı kontrol edip programı "
-                                 "yeniden başlatınız."),
-                  QStringLiteral("HATA"));
-    return;
-  }
-  mesaj::Kritik(QStringLiteral("Bir Hata Oluştu") + QLatin1Char('\n') + h.metin(),
-                QStringLiteral("HATA"));
-}
-
 QWidget* Ac(const QString& ad) {
   if (QWidget* w = Acik(ad)) {
     QWidget* cerceve = w;
@@ -348,7 +337,12 @@ QWidget* Ac(const QString& ad) {
     // The engine refused what the screen needs to open: the clerk is told,
     // the program goes on without the screen.
     Kaldir(ad, w);
-    MotorHatasiGoster(h);
+    if (h.BaglantiYok())
+      mesaj::Kritik(QStringLiteral("Veri tabanı açık değil. Ayarlarınızı kontrol edip programı "
+                                   "yeniden başlatınız."),
+                    QStringLiteral("HATA"));
+    else
+      HataGoster(h);
     return nullptr;
   }
   return w;
@@ -366,7 +360,7 @@ void KomutCalistir(const QString& ad) {
   try {
     it.value()();
   } catch (const db::Hata& h) {
-    MotorHatasiGoster(h);
+    HataGoster(h);
   }
 }
 

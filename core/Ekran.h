@@ -10,10 +10,6 @@ class QLineEdit;
 class QWidget;
 class QComboBox;
 
-namespace db {
-class Hata;
-}
-
 namespace ekran {
 
 // --- leaving a field
@@ -63,12 +59,6 @@ void FormOrtala(QWidget* ekran, int yukseklik, int genislik, bool kaydirmaYok = 
 // Keeps the interface alive for `ms` milliseconds. Tests make it instant.
 void Bekle(int ms);
 void BekleAnlik(bool anlik);
-
-// --- engine failures
-// Tells the clerk of a failure of the engine that no check of the screen
-// handles: "Bir Hata Oluştu" and the engine's text, or, without a connection
-// at all, that the database is not open.
-void MotorHatasiGoster(const db::Hata& h);
 
 // --- opening screens by name
 // Screens register a maker; the main window opens each one once and brings

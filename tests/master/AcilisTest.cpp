@@ -12,6 +12,7 @@
 #include "core/Genel.h"
 #include "core/frmMain.h"
 #include "master/frmFirma.h"
+#include "tests/support/Klavye.h"
 #include "tests/support/Ortam.h"
 
 namespace {
@@ -50,9 +51,9 @@ class Acilis : public test::Ortam {
   // The clerk fills in the office's name and series and saves.
   void FirmaKaydet(frmFirma* f) {
     ASSERT_NE(f, nullptr);
-    test::Yaz(f->txtSoyadi, QStringLiteral("Kılıç Finans"));
-    test::Yaz(f->txtSozlesmeSeri, QStringLiteral("AB"));
-    test::Yaz(f->txtFaturaSeri, QStringLiteral("FT"));
+    test::Tusla(f->txtSoyadi, QStringLiteral("Kılıç Finans"));
+    test::Tusla(f->txtSozlesmeSeri, QStringLiteral("AB"));
+    test::Tusla(f->txtFaturaSeri, QStringLiteral("FT"));
     QTest::mouseClick(f->cmdUpdate, Qt::LeftButton);
     test::Isle();
     EXPECT_EQ(MesajMetinleri().value(0), QStringLiteral("Bilgiler Kaydedildi."));

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QCoreApplication>
-#include <QKeyEvent>
 
 #include "core/Genel.h"
 
@@ -54,15 +53,6 @@ QStringList Ortam::MesajMetinleri() const {
 
 void Ortam::MesajlariTemizle() { gMesajlar.clear(); }
 void Ortam::Cevap(mesaj::Dugme d) { gCevap = d; }
-
-void Yaz(QWidget* kontrol, const QString& metin) {
-  for (QChar c : metin) {
-    QKeyEvent bas(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
-    QApplication::sendEvent(kontrol, &bas);
-    QKeyEvent birak(QEvent::KeyRelease, 0, Qt::NoModifier, QString(c));
-    QApplication::sendEvent(kontrol, &birak);
-  }
-}
 
 void Isle() {
   for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();

@@ -39,8 +39,4 @@ class Ortam : public ::testing::Test {
 // Lets queued events run (focus changes, deferred slots).
 void Isle();
 
-// Types the text into the control key by key, as a clerk does; Turkish
-// letters too, which QTest's key helpers can't send.
-void Yaz(QWidget* kontrol, const QString& metin);
-
 }  // namespace test
