@@ -241,6 +241,21 @@ bool TarihDuzelt(QLineEdit* kutu) {
   return false;
 }
 
+void TarihKutusu(QLineEdit* kutu) {
+  MetinSecKur(kutu);
+  TarihKutusuKur(kutu);
+  AyrilirkenKontrol(kutu, [kutu] { return TarihKutusuKontrol(kutu); });
+}
+
+bool TarihKutusuKontrol(QLineEdit* kutu) {
+  if (kutu->text().isEmpty()) return true;
+  const QDate d = Genel::TarihCoz(kutu->text(), QDate::currentDate());
+  if (d.isValid()) kutu->setText(Genel::TarihYaz(d));
+  if (d.isValid() && d.year() >= 2000) return true;
+  mesaj::Kritik(QStringLiteral("Hatalı Tarih"), QStringLiteral("Dikkat"));
+  return false;
+}
+
 void EnterKur(QWidget* kutu, std::function<void()> islem) {
   kutu->installEventFilter(new EnterSuzgeci(kutu, std::move(islem)));
 }

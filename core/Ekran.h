@@ -44,6 +44,13 @@ void TarihKutusuKur(QLineEdit* kutu);
 // Completes a typed date on leaving a contract-screen date box; shows
 // "Hatalı Tarih Bilgisi." and returns false when it can't.
 bool TarihDuzelt(QLineEdit* kutu);
+// The date box of the collection, report and additional invoice screens: the
+// text is selected on focus, Esc empties it, and on leaving a text that is
+// no date, or one before the year 2000, gives "Hatalı Tarih" ("Dikkat",
+// critical) and keeps the focus; a date is rewritten as dd.MM.yyyy and an
+// empty box passes.
+void TarihKutusu(QLineEdit* kutu);
+bool TarihKutusuKontrol(QLineEdit* kutu);
 // Enter in the box runs `islem` (lists that act on Enter).
 void EnterKur(QWidget* kutu, std::function<void()> islem);
 

@@ -341,6 +341,8 @@ bool SadeceRakam(const QString& s) {
 
 QDate TarihOku(const QString& s) { return BolgeselTarih(s, QDate()); }
 
+QDate TarihCoz(const QString& s, const QDate& bugun) { return BolgeselTarih(s, bugun); }
+
 bool TarihTamamla(QString& metin, const QDate& bugun) {
   QString t = metin;
   if (t.isEmpty()) return true;

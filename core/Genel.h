@@ -92,6 +92,9 @@ QString TarihYaz(const QDate& d);
 // Reads a day-first date with one of ".", "/" or "-" between the parts and a
 // year of two or four digits; an invalid QDate when it is none.
 QDate TarihOku(const QString& s);
+// The regional reader of a typed date: the forms of TarihOku, and day and
+// month with "." or "/" in the year of `bugun`.
+QDate TarihCoz(const QString& s, const QDate& bugun);
 // The completion of a typed date that TarihDuzelt does, without the box:
 // true with `metin` in dd.MM.yyyy form, false with `metin` unchanged.
 bool TarihTamamla(QString& metin, const QDate& bugun);

@@ -119,4 +119,52 @@ TEST(Ekran, TusSuzgecleri) {
   EXPECT_TRUE(tarih.text().isEmpty());
 }
 
+// The date box of the collection screens, left by Tab as a clerk leaves it.
+class TarihKutusuTest : public test::Ortam {};
+
+TEST_F(TarihKutusuTest, YazilanTarihDuzeltilirYaDaReddedilir) {
+  const QString buYil = QString::number(QDate::currentDate().year());
+  const struct {
+    const char* yazilan;
+    QString kalan;  // what the box holds after leaving
+    bool gecer;
+  } durumlar[] = {
+      {"", QString(), true},
+      {"1.2.2005", QStringLiteral("01.02.2005"), true},
+      {"5/6/07", QStringLiteral("05.06.2007"), true},
+      {"1.12", QStringLiteral("01.12.") + buYil, true},
+      {"31.12.1999", QStringLiteral("31.12.1999"), false},  // rewritten, yet refused
+      {"32.01.2005", QStringLiteral("32.01.2005"), false},
+      {"abc", QStringLiteral("abc"), false},
+  };
+  for (const auto& d : durumlar) {
+    SCOPED_TRACE(d.yazilan);
+    MesajlariTemizle();
+    Pencere p;
+    ekran::TarihKutusu(p.diger);
+    p.diger->setFocus();
+    test::Isle();
+    QTest::keyClicks(p.diger, QString::fromLatin1(d.yazilan));
+    QTest::keyClick(p.diger, Qt::Key_Tab);
+    test::Isle();
+    EXPECT_EQ(p.diger->text(), d.kalan);
+    EXPECT_EQ(p.diger->hasFocus(), !d.gecer);
+    if (d.gecer) {
+      EXPECT_TRUE(Mesajlar().isEmpty());
+    } else {
+      ASSERT_EQ(Mesajlar().size(), 1);
+      EXPECT_EQ(Mesajlar()[0].metin, QStringLiteral("Hatalı Tarih"));
+      EXPECT_EQ(Mesajlar()[0].baslik, QStringLiteral("Dikkat"));
+      EXPECT_EQ(Mesajlar()[0].tur, mesaj::Tur::Kritik);
+      EXPECT_EQ(p.diger->selectedText(), d.kalan);
+    }
+  }
+  // Esc empties the box.
+  Pencere p;
+  ekran::TarihKutusu(p.diger);
+  p.diger->setText(QStringLiteral("01.02.2005"));
+  QTest::keyClick(p.diger, Qt::Key_Escape);
+  EXPECT_TRUE(p.diger->text().isEmpty());
+}
+
 }  // namespace
