@@ -87,6 +87,9 @@ class AyrilmaBekcisi : public QObject {
     if (!yeni || yeni->property(kKontrolYok).toBool()) return;
     // Focus moving inside the same composite control (a combo's line edit).
     if (eski->isAncestorOf(yeni) || yeni->isAncestorOf(eski)) return;
+    // A message box or a blocking dialogue takes the focus for a while and
+    // gives it back: the field has not been left.
+    if (yeni->window() != eski->window() && yeni->window()->isModal()) return;
     if (Calistir(eski)) return;
     engel_ = yeni;
     geriVeriliyor_ = true;

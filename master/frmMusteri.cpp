@@ -574,8 +574,12 @@ void frmMusteri::cmbNo_Click() {
 
 // Leaving a list after typing into it picks what was typed, as Enter does.
 bool frmMusteri::eventFilter(QObject* o, QEvent* e) {
-  if (e->type() == QEvent::FocusOut &&
-      static_cast<QFocusEvent*>(e)->reason() != Qt::PopupFocusReason) {
+  // A list's own popup, or a message box shown over the screen, takes the
+  // focus without the clerk leaving the list.
+  const auto neden =
+      e->type() == QEvent::FocusOut ? static_cast<QFocusEvent*>(e)->reason() : Qt::OtherFocusReason;
+  if (e->type() == QEvent::FocusOut && neden != Qt::PopupFocusReason &&
+      neden != Qt::ActiveWindowFocusReason) {
     QWidget* yeni = QApplication::focusWidget();
     const bool icinde = yeni && (yeni == o || static_cast<QWidget*>(o)->isAncestorOf(yeni));
     if (o == cmbNo && !icinde && cmbNo->currentText() != gosterilenNo_) cmbNo_Click();

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <memory>
 #include <utility>
@@ -352,6 +353,22 @@ TEST_F(MusteriTest, ListeyeYazilanTamOlarakAranir) {
   EXPECT_EQ(Kutular(), u""_s);
   // Nothing typed went into the lists.
   EXPECT_EQ(Ogeler(f->cmbNo) + ' ' + Ogeler(f->cmbAd), u"5,120 AHMET KARA,ALİ KARACA"_s);
+
+  // A real box takes the focus from the list while it stands: the search
+  // still runs once, with one message.
+  QWidget kutu;
+  kutu.setWindowModality(Qt::ApplicationModal);
+  auto* tamam = new QPushButton(QStringLiteral("Tamam"), &kutu);
+  int sayi = 0;
+  mesaj::CevaplayiciKur([&](const mesaj::Kayit&) {
+    ++sayi;
+    kutu.show();
+    QApplication::setActiveWindow(&kutu);
+    tamam->setFocus(Qt::ActiveWindowFocusReason);
+    return mesaj::Dugme::Tamam;
+  });
+  test::ListeyeYaz(f->cmbNo, u"12"_s);
+  EXPECT_EQ(sayi, 1);
 }
 
 TEST_F(MusteriTest, AyniMusteriBuyukKucukHarfTurkceKurallarla) {
