@@ -28,9 +28,11 @@ int MusteriListesi::DegerSatiri(qint64 deger) const {
 int MusteriListesi::Bul(const QString& metin) const {
   for (int i = 0; i < ogeler_.size(); ++i)
     if (ogeler_[i].metin == metin) return i;
-  const QString buyuk = db::TurkceBuyuk(metin);
+  // Else in any case by Turkish rules, and without the blanks around it: a
+  // customer without a first name stands as "YILMAZ " in the list.
+  const QString buyuk = db::TurkceBuyuk(metin.trimmed());
   for (int i = 0; i < ogeler_.size(); ++i)
-    if (db::TurkceBuyuk(ogeler_[i].metin) == buyuk) return i;
+    if (db::TurkceBuyuk(ogeler_[i].metin.trimmed()) == buyuk) return i;
   return -1;
 }
 

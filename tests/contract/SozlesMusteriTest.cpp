@@ -12,6 +12,7 @@ class SozlesMusteri : public test::SozlesEkran {};
 
 TEST_F(SozlesMusteri, YazilanMusteriVeDovizTamamlanmaz) {
   Musteri(30, "YILDIZ", "ALİCAN");
+  Musteri(31, "YILMAZ", "");  // no first name: a blank stands beside the surname
   auto* f = Ac(true);
   // "ALİ" begins two names but is none of them.
   test::ListeyeYaz(f->cmbAd, "ALİ", Qt::Key_unknown);
@@ -22,7 +23,10 @@ TEST_F(SozlesMusteri, YazilanMusteriVeDovizTamamlanmaz) {
   test::ListeyeYaz(f->cmbAd, "alican yıldız", Qt::Key_unknown);
   ASSERT_TRUE(Bas(f->cmdBilgiGoster));
   EXPECT_EQ(f->txtMusteriNo->text(), "30");
-  EXPECT_EQ(f->cmbAd->count(), 2);
+  test::ListeyeYaz(f->cmbAd, "yılmaz", Qt::Key_unknown);
+  ASSERT_TRUE(Bas(f->cmdBilgiGoster));
+  EXPECT_EQ(f->txtMusteriNo->text(), "31");
+  EXPECT_EQ(f->cmbAd->count(), 3);
 
   // A currency code stands as typed.
   ASSERT_TRUE(Bas(f->cmdNew));
