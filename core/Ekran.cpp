@@ -211,6 +211,14 @@ void SaltOkunur(QLineEdit* kutu, bool kilitli) {
     kutu->setFocusPolicy(Qt::FocusPolicy(onceki.toInt()));
     kutu->setProperty(kOdakKurali, QVariant());
   }
+  // A locked box shows the screen's colour, so that the clerk sees it is no
+  // place to type.
+  QPalette renk;
+  if (kilitli) {
+    renk = kutu->parentWidget() ? kutu->parentWidget()->palette() : kutu->palette();
+    renk.setColor(QPalette::Base, renk.color(QPalette::Window));
+  }
+  kutu->setPalette(renk);
 }
 
 void MetinSec(QLineEdit* kutu) { kutu->setSelection(0, int(kutu->text().size())); }
