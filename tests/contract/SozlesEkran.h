@@ -167,16 +167,6 @@ class SozlesEkran : public Ortam {
       if (w->isEnabled()) adlar << w->objectName();
     return adlar.join(' ');
   }
-
-  // The messages shown since the last call, one line each: kind, title, text.
-  QString Kutular() {
-    static const char* const tur[] = {"Kritik", "Ünlem", "Bilgi", "Soru", "Düz"};
-    QStringList l;
-    for (const mesaj::Kayit& k : Mesajlar())
-      l << QString::fromUtf8(tur[int(k.tur)]) + ' ' + k.baslik + ": " + k.metin;
-    MesajlariTemizle();
-    return l.join('\n');
-  }
 };
 
 }  // namespace test

@@ -95,16 +95,6 @@ class MusteriTest : public test::Ortam {
     for (int i = 0; i < c->count(); ++i) l << c->itemText(i);
     return l.join(QLatin1Char(','));
   }
-
-  // The messages shown since the last call, one line each: kind, title, text.
-  QString Kutular() {
-    static const char* const tur[] = {"Kritik", "Ünlem", "Bilgi", "Soru", "Düz"};
-    QStringList l;
-    for (const mesaj::Kayit& k : Mesajlar())
-      l << QString::fromUtf8(tur[int(k.tur)]) + ' ' + k.baslik + ": " + k.metin;
-    MesajlariTemizle();
-    return l.join(QLatin1Char('\n'));
-  }
 };
 
 const QString kNormal =

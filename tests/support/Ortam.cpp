@@ -52,6 +52,16 @@ QStringList Ortam::MesajMetinleri() const {
 }
 
 void Ortam::MesajlariTemizle() { gMesajlar.clear(); }
+
+QString Ortam::Kutular() {
+  static const char* const tur[] = {"Kritik", "Ünlem", "Bilgi", "Soru", "Düz"};
+  QStringList l;
+  for (const mesaj::Kayit& k : gMesajlar)
+    l << QString::fromUtf8(tur[int(k.tur)]) + QLatin1Char(' ') + k.baslik + QStringLiteral(": ") +
+             k.metin;
+  gMesajlar.clear();
+  return l.join(QLatin1Char('\n'));
+}
 void Ortam::Cevap(mesaj::Dugme d) { gCevap = d; }
 
 void Isle() {

@@ -26,6 +26,9 @@ class Ortam : public ::testing::Test {
   const QVector<mesaj::Kayit>& Mesajlar() const;
   QStringList MesajMetinleri() const;
   void MesajlariTemizle();
+  // The messages shown since the last call, one line each: kind, title, text;
+  // they are cleared.
+  QString Kutular();
   // Answer to the next questions (Yes by default).
   void Cevap(mesaj::Dugme d);
 
