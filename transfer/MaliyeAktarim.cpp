@@ -6,6 +6,7 @@
 
 #include "core/Genel.h"
 #include "transfer/MaliyeDosyasi.h"
+#include "transfer/MaliyeSema.h"
 
 namespace aktarim {
 
@@ -118,6 +119,7 @@ class Aktarim {
     HataListesi();
     if (!f.commit()) throw DosyaHatasi(dosya + QStringLiteral(": ") + f.errorString());
     s_.dosya = dosya;
+    s_.semaHatasi = SemayaUygunMu(dosya, v_);
     s_.satirlar.MoveFirst();
     return std::move(s_);
   }

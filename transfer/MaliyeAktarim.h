@@ -48,6 +48,7 @@ struct Sonuc {
   QStringList hatalar;       // faulty tax numbers and provinces, in the order found
   QStringList kurUyarilari;  // contracts whose rate is missing
   QString dosya;             // the transfer file written
+  QString semaHatasi;        // the first fault against our schema; empty when valid
   db::Kayitlar satirlar;     // the rows of the main query, for the control list
 };
 
@@ -71,8 +72,10 @@ struct Geri {
 };
 
 // Runs the transfer on `b` and writes Velmora.xml (and, when there are
-// faults, HataliKayit.txt) into the request's folder. Throws db::Hata when
-// the engine fails and DosyaHatasi when a file can't be written.
+// faults, HataliKayit.txt) into the request's folder, then checks the file
+// against our schema; a file that fails is kept, and the result says why.
+// Throws db::Hata when the engine fails and DosyaHatasi when a file can't be
+// written.
 Sonuc Hazirla(db::Baglanti& b, const Istek& istek, const Geri& geri = {});
 
 // The control list: a line of column names, then a line per row, every value

@@ -77,6 +77,10 @@ int MaliyeKomutu(const std::function<db::Baglanti&()>& baglan, const QStringList
     for (const QString& h : s.hatalar) hata << h << '\n';
     cikti << QString(s.ozet).replace(QStringLiteral("\r\n"), QStringLiteral("\n")) << '\n'
           << s.dosya << '\n';
+    if (!s.semaHatasi.isEmpty()) {
+      hata << QStringLiteral("Dosya şema denetiminden geçmedi: ") << s.semaHatasi << '\n';
+      return kHatali;
+    }
   } catch (const db::Hata& h) {
     hata << QStringLiteral("Bir Hata Oluştu\n") << h.metin() << '\n';
     return kHatali;

@@ -198,12 +198,22 @@ void frmMaliye::Calistir() {
   cmdCSV->setVisible(satirVar);
   lblMesaj->setText(QString(sonuc.ozet).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
   DosyaAcici()(sonuc.dosya);
-  mesaj::Bilgi(QStringLiteral("XML Dosyası %1 olarak UTF-8 kodlamasıyla kaydedilmiştir.\n"
-                              "Dosya Masaüstünün uygulamasında açılmıştır.\n"
-                              "Bu işlemden sonra Dosya CD ye yazılarak Maliye ye gönderilmeye "
-                              "hazır olacaktır")
-                   .arg(sonuc.dosya),
-               QStringLiteral("DİKKAT"));
+  QString kapanis = QStringLiteral(
+                        "XML Dosyası %1 olarak UTF-8 kodlamasıyla kaydedilmiştir.\n"
+                        "Dosya Masaüstünün uygulamasında açılmıştır.\n")
+                        .arg(sonuc.dosya);
+  if (sonuc.semaHatasi.isEmpty()) {
+    kapanis += QStringLiteral(
+        "Bu işlemden sonra Dosya CD ye yazılarak Maliye ye gönderilmeye hazır olacaktır");
+    mesaj::Bilgi(kapanis, QStringLiteral("DİKKAT"));
+  } else {
+    // Kept for the clerk to look at, never shipped silently.
+    kapanis += QStringLiteral(
+                   "Dosya şema denetiminden geçmedi, bu haliyle gönderilmemelidir.\n"
+                   "İlk hata: ") +
+               sonuc.semaHatasi;
+    mesaj::Uyari(kapanis, QStringLiteral("DİKKAT"));
+  }
 }
 
 void frmMaliye::GridDuzenle() {

@@ -120,6 +120,7 @@ TEST_P(Aktarim, Durum) {
   if (d.bolum.contains("ozet"))
     EXPECT_EQ(s.ozet, d.bolum.value("ozet").join(QStringLiteral("\r\n")));
   EXPECT_EQ(s.kurUyarilari, d.bolum.value("kur"));
+  EXPECT_EQ(s.semaHatasi, "") << "şemaya uymuyor";
   EXPECT_EQ(sonIlerleme, s.yapilan);
   EXPECT_EQ(s.yapilan, s.kayitToplam);
 }

@@ -11,6 +11,7 @@
 #include "tests/support/Ortam.h"
 #include "transfer/MaliyeAktarim.h"
 #include "transfer/MaliyeDosyasi.h"
+#include "transfer/MaliyeSema.h"
 
 namespace {
 
@@ -192,6 +193,45 @@ TEST_F(MaliyeDisk, KontrolListesiSekmeliTumSutunlar) {
   // A second write replaces the file with the same content.
   aktarim::KontrolListesiYaz(s.satirlar, d.path());
   EXPECT_EQ(Oku(yol), beklenen);
+}
+
+TEST_F(MaliyeDisk, SemaBozukDosyayiYakalar) {
+  Genel::Baglanti.Calistir(
+      "UPDATE Firma SET IlKod = 6;"
+      "INSERT INTO Musteri(MusteriNo, VergiKimlikNo, Soyadi, Adi, IlKod, Uyruk) "
+      "VALUES (4, '1234567890', 'KAYA', 'ALİ', 6, 2);"
+      "INSERT INTO Sozlesme(SozlesmeID, SozlesmeSeri, SozlesmeNo, MusteriNo, Tarih, Tutar, "
+      "FaizTutar, Doviz) VALUES (1, 'A', 7, 4, '2005-02-03', 12345.5, 10, 'TRL')");
+  QTemporaryDir d;
+  const aktarim::Sonuc s = aktarim::Hazirla(Genel::Baglanti, Istek(d.path()));
+  ASSERT_EQ(s.semaHatasi, "");
+  const QByteArray iyi = Oku(s.dosya);
+  const aktarim::Varyant yeni = aktarim::VaryantSec(2005), eski = aktarim::VaryantSec(2004);
+  // A new lira file is no old lira file: its amounts have decimals.
+  EXPECT_TRUE(aktarim::SemayaUygunMu(s.dosya, eski).contains("odvertoplamtutar"));
+
+  const struct {
+    const char* once;
+    const char* sonra;
+    const char* hata;  // part of the first fault
+  } bozuk[] = {
+      {"<otutartl>12345.50</otutartl>", "<otutartl>12345,50</otutartl>", "otutartl"},
+      {"<soyad>KAYA</soyad>", "<soyad>KAYAKAYAKAYAKAYAKAYA1</soyad>", "soyad"},
+      {"<ad>ALİ</ad>\r\n", "", "babaadi"},
+      {"<ilkodu>06</ilkodu>\r\n<ulkekodu>052</ulkekodu>\r\n</adres>\r\n<tckn>",
+       "<ilkodu>6</ilkodu>\r\n<ulkekodu>052</ulkekodu>\r\n</adres>\r\n<tckn>", "ilkodu"},
+      {"</subeadi>", "</subead>", "satır"},
+      {"<soztar>20050203</soztar>", "<soztar>2005023</soztar>", "soztar"},
+  };
+  for (const auto& b : bozuk) {
+    QByteArray metin = iyi;
+    ASSERT_TRUE(metin.contains(b.once)) << b.once;
+    metin.replace(b.once, b.sonra);
+    const QString yol = QDir(d.path()).filePath("bozuk.xml");
+    Yaz(yol, metin);
+    const QString hata = aktarim::SemayaUygunMu(yol, yeni);
+    EXPECT_TRUE(hata.contains(b.hata)) << b.sonra << " -> " << hata.toStdString();
+  }
 }
 
 }  // namespace
