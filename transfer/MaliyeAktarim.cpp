@@ -18,6 +18,8 @@ const char* const kSutunlar =
     " M.PostaKod, M.Il_Ad, M.IlKod, M.TCKimlikNo, M.VekilDurum, M.VekilVergiKimlik,"
     " M.VekilSoyadi, M.VekilAdi, M.Uyruk, M.HukukiDurum";
 
+}  // namespace
+
 // Contracts by their date, collected papers by their payment day; UNION
 // merges equal rows of one customer, and the count goes after that. The
 // order (customer, type, date) goes by position: a compound query knows its
@@ -38,6 +40,8 @@ QString AnaSorgu() {
              " WHERE SD.Odenmesi BETWEEN ? AND ? AND SD.Meblag >= ?"
              " ORDER BY 2, 18, 20");
 }
+
+namespace {
 
 QString Sql(const QDate& d) { return d.toString(QStringLiteral("yyyy-MM-dd")); }
 

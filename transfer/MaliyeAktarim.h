@@ -71,6 +71,10 @@ struct Geri {
   std::function<void(const QString&)> kurUyarisi;
 };
 
+// The main query: the factor, start, end and limit of the contracts, then
+// the same of the lines, as bound values.
+QString AnaSorgu();
+
 // Runs the transfer on `b` and writes Velmora.xml (and, when there are
 // faults, HataliKayit.txt) into the request's folder, then checks the file
 // against our schema; a file that fails is kept, and the result says why.

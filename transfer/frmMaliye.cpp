@@ -1,5 +1,6 @@
 #include "transfer/frmMaliye.h"
 
+#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QGridLayout>
@@ -276,6 +277,14 @@ void frmMaliye::cmdCSV_Click() {
 }
 
 void frmMaliye::cmdExit_Click() { Kapat(); }
+
+void frmMaliye::closeEvent(QCloseEvent* e) {
+  if (calisiyor_) {
+    e->ignore();
+    return;
+  }
+  Form::closeEvent(e);
+}
 
 namespace transfer {
 void MaliyeEkraniKaydet() {

@@ -39,6 +39,11 @@ class frmMaliye : public ekran::Form {
   // waiting; tests put their own in.
   static std::function<void(const QString&)>& DosyaAcici();
 
+ protected:
+  // The screen stays open while a run is going: the run repaints and takes
+  // the clerk's events, and its rows and labels must outlive it.
+  void closeEvent(QCloseEvent* e) override;
+
  private:
   void Calistir();
   bool calisiyor_ = false;

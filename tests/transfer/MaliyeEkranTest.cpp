@@ -229,6 +229,9 @@ TEST_F(MaliyeEkran, CalisirkenIkinciBasisYokSayilir) {
       EXPECT_FALSE(f->cmdHazirla->isEnabled());
       QTest::mouseClick(f->cmdHazirla, Qt::LeftButton);
       f->cmdHazirla_Click();
+      // Nor can the screen be closed under the run.
+      QTest::mouseClick(f->cmdExit, Qt::LeftButton);
+      EXPECT_TRUE(f->isVisible());
     }
     return mesaj::Dugme::Tamam;
   });
