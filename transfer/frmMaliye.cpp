@@ -89,6 +89,9 @@ frmMaliye::frmMaliye() {
   ana->addWidget(lblMesaj);
   ana->addLayout(dugmeler);
   ana->addWidget(DataGrid1, 1);
+  // Takes the room the hidden grid leaves, so that the fields stay together.
+  ana->addStretch();
+  txtLimit->setMaximumWidth(ekran::Twip(1800));
   cmdCSV->setVisible(false);
   DataGrid1->setVisible(false);
 
@@ -101,6 +104,7 @@ frmMaliye::frmMaliye() {
 frmMaliye::~frmMaliye() { DataGrid1->Bagla(nullptr); }
 
 void frmMaliye::Form_Load() {
+  ekran::FormOrtala(this, 8000, 11500);
   const int buYil = QDate::currentDate().year();
   for (int i = 0; i < 2; ++i) {
     for (const char* ay : kAylar) cmbAy[i]->addItem(QString::fromUtf8(ay));
@@ -201,7 +205,7 @@ void frmMaliye::Calistir() {
   DosyaAcici()(sonuc.dosya);
   QString kapanis = QStringLiteral(
                         "XML Dosyası %1 olarak UTF-8 kodlamasıyla kaydedilmiştir.\n"
-                        "Dosya Masaüstünün uygulamasında açılmıştır.\n")
+                        "Dosya, masaüstünün XML dosyaları için seçili uygulamasıyla açılır.\n")
                         .arg(sonuc.dosya);
   if (sonuc.semaHatasi.isEmpty()) {
     kapanis += QStringLiteral(
