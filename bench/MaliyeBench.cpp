@@ -41,8 +41,10 @@ long TepeBellekKb() {
 
 // The main query with its values written in, as the shell takes it.
 QString KabukSorgusu(const QDate& bas, const QDate& son, double limit) {
-  const QString b = bas.toString(QStringLiteral("'yyyy-MM-dd'"));
-  const QString s = son.toString(QStringLiteral("'yyyy-MM-dd'"));
+  const QString b =
+      QLatin1Char('\'') + bas.toString(QStringLiteral("yyyy-MM-dd")) + QLatin1Char('\'');
+  const QString s =
+      QLatin1Char('\'') + son.toString(QStringLiteral("yyyy-MM-dd")) + QLatin1Char('\'');
   const QString l = QString::number(limit, 'f', 0);
   const QStringList degerler = {
       QStringLiteral("1"), QStringLiteral("1"), b, s, l, QStringLiteral("1"), b, s, l};
@@ -96,6 +98,7 @@ int main(int argc, char** argv) {
     p.setStandardOutputFile(QProcess::nullDevice());
     p.start(QStringLiteral("sqlite3"), {dosya, sql});
     p.waitForFinished(-1);
+    if (p.exitCode() != 0) std::printf("sqlite3: %s\n", p.readAllStandardError().constData());
   });
   std::printf("%d yılı, %d satır\n", yil, satir);
   olcum::Yaz("aktarım (dosya + şema)", aktarim);
