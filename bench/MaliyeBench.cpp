@@ -16,6 +16,7 @@
 #include <sys/resource.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -26,6 +27,7 @@
 #include "bench/Uretec.h"
 #include "core/Genel.h"
 #include "transfer/MaliyeAktarim.h"
+#include "transfer/MaliyeSema.h"
 
 namespace {
 
@@ -100,9 +102,23 @@ int main(int argc, char** argv) {
     p.waitForFinished(-1);
     if (p.exitCode() != 0) std::printf("sqlite3: %s\n", p.readAllStandardError().constData());
   });
+  // What the run is made of: the main query into a record set, and the
+  // schema check of the written file.
+  const QVariant b = istek.bas.toString(QStringLiteral("yyyy-MM-dd")),
+                 e = istek.son.toString(QStringLiteral("yyyy-MM-dd"));
+  const olcum::Olcum sorgu = olcum::Olc(3, nullptr, [&](int) {
+    Genel::Baglanti.Sorgu(aktarim::AnaSorgu(),
+                          {1.0, 1.0, b, e, istek.limit, 1.0, b, e, istek.limit});
+  });
+  const olcum::Olcum sema = olcum::Olc(3, nullptr, [&](int) {
+    aktarim::SemayaUygunMu(QDir(istek.klasor).filePath(QString::fromLatin1(aktarim::kDosyaAdi)),
+                           aktarim::VaryantSec(yil));
+  });
   std::printf("%d yılı, %d satır\n", yil, satir);
   olcum::Yaz("aktarım (dosya + şema)", aktarim);
   olcum::Yaz("sqlite3 kabuğu, ana sorgu", kabuk);
+  olcum::Yaz("  ana sorgu, kayıt kümesine", sorgu);
+  olcum::Yaz("  şema denetimi", sema);
   std::printf("oran: %.2f\n", aktarim.duvar / kabuk.duvar);
   std::printf("tepe bellek: %ld kB\n", TepeBellekKb());
   return 0;
