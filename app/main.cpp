@@ -6,13 +6,16 @@
 #include <QTextStream>
 #include <cstdio>
 
+#include "contract/frmNoDegis.h"
+#include "contract/frmSozles.h"
 #include "core/Genel.h"
 #include "core/Uygulama.h"
 #include "core/frmMain.h"
+#include "master/frmDovizTanim.h"
 #include "master/frmFirma.h"
 #include "master/frmMusteri.h"
-#include "contract/frmNoDegis.h"
-#include "contract/frmSozles.h"
+#include "transfer/MaliyeKomut.h"
+#include "transfer/frmMaliye.h"
 
 namespace {
 
@@ -20,6 +23,7 @@ const char* const kYardim =
     "Kullanım:\n"
     "  velmora [--veri DİZİN] [--ayar DİZİN]   programı başlatır\n"
     "  velmora yaziyla TUTAR                    tutarı yazıyla yazar (örnek: 1.234,56)\n"
+    "%1"
     "  velmora --help                           bu yardımı gösterir\n"
     "\n"
     "  --veri DİZİN   veri tabanının (velmora.db) dizini; yoksa $VELMORA_VERI,\n"
@@ -35,21 +39,38 @@ void Yaz(FILE* f, const QString& s) {
 int Yaziyla(const QString& tutar) {
   Genel::BinlikAyirici = QString(Genel::Bolge().binlik);
   double deger = 0;
-  if (tutar.trimmed().isEmpty() || !Genel::SayiOkuDene(tutar, deger) ||
-      std::abs(deger) >= 1e15) {
-    Yaz(stderr, QStringLiteral("Geçersiz tutar: \"%1\". Tutarı 1.234,56 biçiminde yazınız.\n")
-                    .arg(tutar));
+  if (tutar.trimmed().isEmpty() || !Genel::SayiOkuDene(tutar, deger) || std::abs(deger) >= 1e15) {
+    Yaz(stderr,
+        QStringLiteral("Geçersiz tutar: \"%1\". Tutarı 1.234,56 biçiminde yazınız.\n").arg(tutar));
     return 2;
   }
   Yaz(stdout, Genel::YaziyaCevir(deger) + QLatin1Char('\n'));
   return 0;
 }
 
+QString Yardim() {
+  return QString::fromUtf8(kYardim).arg(QString::fromUtf8(aktarim::kKomutYardimi));
+}
+
+// The transfer without the window: the settings and the database as the
+// program reads them, opened read-only once the input is accepted.
+int Maliye(const QStringList& args) {
+  Genel::BinlikAyirici = QString(Genel::Bolge().binlik);
+  QTextStream cikti(stdout), hata(stderr);
+  const auto baglan = []() -> db::Baglanti& {
+    Genel::Baglanti.Ac(Genel::VeriTabaniYolu(), db::Baglanti::Kip::SadeceOku);
+    return Genel::Baglanti;
+  };
+  return aktarim::MaliyeKomutu(baglan, args, cikti, hata);
+}
+
 void EkranlariKaydet() {
   master::FirmaEkraniKaydet();
   master::MusteriEkranlariKaydet();
+  master::DovizEkraniKaydet();
   contract::NoDegisEkraniKaydet();
   contract::SozlesmeEkraniKaydet();
+  transfer::MaliyeEkraniKaydet();
 }
 
 }  // namespace
@@ -77,7 +98,7 @@ int main(int argc, char** argv) {
   if (!args.isEmpty()) {
     if (args[0] == QLatin1String("--help") || args[0] == QLatin1String("-h") ||
         args[0] == QLatin1String("yardim")) {
-      Yaz(stdout, QString::fromUtf8(kYardim));
+      Yaz(stdout, Yardim());
       return 0;
     }
     if (args[0] == QLatin1String("yaziyla")) {
@@ -88,7 +109,11 @@ int main(int argc, char** argv) {
       QCoreApplication uyg(argc, argv);
       return Yaziyla(args[1]);
     }
-    Yaz(stderr, QStringLiteral("Bilinmeyen komut: %1\n\n").arg(args[0]) + QString::fromUtf8(kYardim));
+    if (args[0] == QLatin1String("maliye")) {
+      QCoreApplication uyg(argc, argv);
+      return Maliye(args.mid(1));
+    }
+    Yaz(stderr, QStringLiteral("Bilinmeyen komut: %1\n\n").arg(args[0]) + Yardim());
     return 2;
   }
 

@@ -1,0 +1,262 @@
+// The transfer screen as the clerk uses it: months picked from the lists, the
+// limit typed and left, one button, and what comes back: the messages in
+// their order, the summary, the control list and its file.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest/QTest>
+#include <memory>
+
+#include "core/Genel.h"
+#include "tests/support/Klavye.h"
+#include "tests/support/Ortam.h"
+#include "transfer/frmMaliye.h"
+
+namespace {
+
+class MaliyeEkran : public test::Ortam {
+ protected:
+  void SetUp() override {
+    Ortam::SetUp();
+    ASSERT_TRUE(cikti_.isValid());
+    qputenv("VELMORA_CIKTI", cikti_.path().toUtf8());
+    frmMaliye::DosyaAcici() = [this](const QString& yol) { acilan_ << yol; };
+  }
+  void TearDown() override {
+    ekran_.reset();
+    qunsetenv("VELMORA_CIKTI");
+    Ortam::TearDown();
+  }
+
+  frmMaliye* Ac() {
+    ekran_ = std::make_unique<frmMaliye>();
+    ekran_->show();
+    QApplication::setActiveWindow(ekran_.get());
+    ekran_->Yukle();
+    test::Isle();
+    return ekran_.get();
+  }
+  // A list entry picked with the keyboard: the first, then down.
+  static void Sec(QComboBox* liste, int sira) {
+    liste->setFocus();
+    test::Isle();
+    QTest::keyClick(liste, Qt::Key_Home);
+    for (int i = 0; i < sira; ++i) QTest::keyClick(liste, Qt::Key_Down);
+    test::Isle();
+  }
+  void Donem(frmMaliye* f, int ay0, int yil0, int ay1, int yil1) {
+    Sec(f->cmbAy[0], ay0 - 1);
+    Sec(f->cmbYear[0], yil0 - 2000);
+    Sec(f->cmbAy[1], ay1 - 1);
+    Sec(f->cmbYear[1], yil1 - 2000);
+  }
+  static void LimitYaz(frmMaliye* f, const QString& metin) {
+    f->txtLimit->setFocus();
+    test::Isle();
+    QTest::keyClick(f->txtLimit, Qt::Key_A, Qt::ControlModifier);
+    test::Tusla(f->txtLimit, metin);
+    QTest::keyClick(f->txtLimit, Qt::Key_Tab);
+    test::Isle();
+  }
+  // A click as the mouse gives it: the press takes the focus, running the
+  // check of the box left; a refused check drops the click.
+  static void Bas(QPushButton* d) {
+    QTest::mouseClick(d, Qt::LeftButton);
+    test::Isle();
+  }
+  QString Dosya(const char* ad) const { return QDir(cikti_.path()).filePath(ad); }
+  QStringList Dosyalar() const { return QDir(cikti_.path()).entryList(QDir::Files); }
+
+  static void Veri() {
+    Genel::Baglanti.Calistir(
+        "UPDATE Firma SET VergiKimlikNo = '5555555555', Soyadi = 'FİRMA', IlKod = 6;"
+        "INSERT INTO Musteri(MusteriNo, VergiKimlikNo, Soyadi, Adi, IlKod, Uyruk) "
+        "VALUES (4, '1234567890', 'KAYA', 'ŞÜKRÜ', 6, 1), (8, '12', 'ARSLAN', 'EDA', 34, 1);"
+        "INSERT INTO Sozlesme(SozlesmeID, SozlesmeSeri, SozlesmeNo, MusteriNo, Tarih, Tutar, "
+        "FaizTutar, Doviz) VALUES (1, 'A', 1, 4, '2005-02-03', 1234567.4, 0, 'TRL'),"
+        "(2, 'A', 2, 8, '2005-03-03', 20000, 100, 'USD');"
+        "INSERT INTO SozlesmeDetay(SozlesmeID, Vadesi, Odenmesi, Meblag, Doviz) "
+        "VALUES (1, '2005-03-01', '2005-03-02', 20000, 'TRL')");
+  }
+
+  QTemporaryDir cikti_;
+  QStringList acilan_;
+  std::unique_ptr<frmMaliye> ekran_;
+};
+
+TEST_F(MaliyeEkran, AcilistaListelerVeLimit) {
+  auto* f = Ac();
+  EXPECT_EQ(f->windowTitle(), "Maliye Raporu Hazırla");
+  EXPECT_EQ(f->cmbAy[0]->count(), 12);
+  EXPECT_EQ(f->cmbAy[0]->itemText(1), "Şubat");
+  EXPECT_EQ(f->cmbAy[1]->itemText(11), "Aralık");
+  EXPECT_EQ(f->cmbAy[0]->currentIndex(), -1);
+  EXPECT_EQ(f->cmbAy[1]->currentIndex(), -1);
+  const QString buYil = QString::number(QDate::currentDate().year());
+  EXPECT_EQ(f->cmbYear[0]->currentText(), buYil);
+  EXPECT_EQ(f->cmbYear[1]->currentText(), buYil);
+  EXPECT_EQ(f->cmbYear[0]->itemText(0), "2000");
+  EXPECT_EQ(f->cmbYear[1]->itemText(f->cmbYear[1]->count() - 1),
+            QString::number(QDate::currentDate().year() + 1));
+  EXPECT_EQ(f->txtLimit->text(), "10.000");
+  EXPECT_TRUE(f->lblAdres->text().contains("Yeni Ziraat Mah. Etlik Cad. No:16 06110 Dışkapı"));
+  EXPECT_FALSE(f->cmdCSV->isVisible());
+  EXPECT_FALSE(f->DataGrid1->isVisible());
+}
+
+TEST_F(MaliyeEkran, LimitKuraliAyrilirken) {
+  auto* f = Ac();
+  const struct {
+    const char* yazilan;
+    const char* gorunen;
+  } durumlar[] = {{"50.000.000", "50"}, {"250000", "250.000"}, {"250001", "0"},
+                  {"2500000", "2"},     {"3500000", "4"},      {"12,6", "13"}};
+  for (const auto& d : durumlar) {
+    LimitYaz(f, d.yazilan);
+    EXPECT_EQ(f->txtLimit->text(), d.gorunen) << d.yazilan;
+  }
+  EXPECT_TRUE(Mesajlar().isEmpty());
+  LimitYaz(f, "on bin");
+  EXPECT_EQ(MesajMetinleri(), QStringList{"Geçerli bir limit giriniz."});
+  EXPECT_EQ(Mesajlar()[0].baslik, "HATA");
+  EXPECT_EQ(Mesajlar()[0].tur, mesaj::Tur::Kritik);
+  EXPECT_EQ(QApplication::focusWidget(), f->txtLimit);
+}
+
+TEST_F(MaliyeEkran, DonemHatalariHicbirDosyaYazmaz) {
+  Veri();
+  auto* f = Ac();
+  Bas(f->cmdHazirla);
+  EXPECT_EQ(MesajMetinleri(), QStringList{"Lütfen ilk olarak dönemi seçiniz."});
+  EXPECT_EQ(Mesajlar()[0].baslik, "HATIRLATMA");
+  EXPECT_EQ(Mesajlar()[0].tur, mesaj::Tur::Bilgi);
+  MesajlariTemizle();
+
+  Sec(f->cmbAy[0], 1);  // only the first month
+  Bas(f->cmdHazirla);
+  EXPECT_EQ(MesajMetinleri(), QStringList{"Lütfen ilk olarak dönemi seçiniz."});
+  MesajlariTemizle();
+
+  Donem(f, 3, 2005, 1, 2005);
+  Bas(f->cmdHazirla);
+  EXPECT_EQ(MesajMetinleri(), QStringList{"Başlangıç Tarihi Bitiş Tarihinden Küçük Olmalı"});
+  EXPECT_EQ(Mesajlar()[0].baslik, "HATA");
+  EXPECT_EQ(Mesajlar()[0].tur, mesaj::Tur::Kritik);
+  EXPECT_TRUE(Dosyalar().isEmpty());
+  EXPECT_TRUE(acilan_.isEmpty());
+}
+
+TEST_F(MaliyeEkran, CalistirmaOzetKontrolListesiVeCsv) {
+  Veri();
+  auto* f = Ac();
+  Donem(f, 1, 2005, 3, 2005);
+  Bas(f->cmdHazirla);
+  // The rate warning as it is met, the faults at the end, then where the file is.
+  ASSERT_EQ(MesajMetinleri().size(), 3) << MesajMetinleri().join("\n").toStdString();
+  EXPECT_EQ(Mesajlar()[0].metin, "Tanımsız Döviz var, lütfen tanımladıktan sonra çalıştırın.");
+  EXPECT_EQ(Mesajlar()[0].baslik, "UYARI");
+  EXPECT_EQ(Mesajlar()[0].tur, mesaj::Tur::Kritik);
+  EXPECT_EQ(Mesajlar()[1].metin,
+            "8 Numaralı ARSLAN EDA Müşterisinin Vergi numarasının uzunluğu hatalı.\r\n");
+  EXPECT_EQ(Mesajlar()[1].tur, mesaj::Tur::Duz);
+  EXPECT_EQ(Mesajlar()[2].baslik, "DİKKAT");
+  EXPECT_EQ(Mesajlar()[2].tur, mesaj::Tur::Bilgi);
+  EXPECT_TRUE(Mesajlar()[2].metin.contains(Dosya("Velmora.xml")));
+
+  EXPECT_EQ(f->lblMesaj->text(),
+            "Ödünç Tutar : 1.234.567,40\nTahsil Tutar:  20.000,00\n Aktarılan Kayıt: 3");
+  EXPECT_EQ(acilan_, QStringList{Dosya("Velmora.xml")});
+  EXPECT_TRUE(QFile::exists(Dosya("HataliKayit.txt")));
+  EXPECT_TRUE(f->cmdHazirla->isEnabled());
+
+  // The grid: the rows of the main query with their captions and formats.
+  ASSERT_TRUE(f->DataGrid1->isVisible());
+  EXPECT_TRUE(f->cmdCSV->isVisible());
+  auto* m = f->DataGrid1->Model();
+  ASSERT_EQ(m->rowCount(), 3);
+  EXPECT_EQ(m->headerData(0, Qt::Horizontal, Qt::DisplayRole).toString(), "Vergi No");
+  EXPECT_EQ(m->headerData(2, Qt::Horizontal, Qt::DisplayRole).toString(), "Soyadı");
+  EXPECT_EQ(m->headerData(13, Qt::Horizontal, Qt::DisplayRole).toString(), "Vekil Adi");
+  EXPECT_EQ(m->headerData(21, Qt::Horizontal, Qt::DisplayRole).toString(), "Faiz Tutar");
+  EXPECT_TRUE(f->DataGrid1->isColumnHidden(1));
+  EXPECT_TRUE(f->DataGrid1->isColumnHidden(17));
+  EXPECT_FALSE(f->DataGrid1->isColumnHidden(19));
+  EXPECT_FALSE(f->DataGrid1->isColumnHidden(23));
+  EXPECT_EQ(m->Metin(0, 19), "03.02.2005");
+  EXPECT_EQ(m->Metin(0, 20), "1.234.567");
+  EXPECT_EQ(m->Metin(0, 21), "");  // 0 shows nothing
+  EXPECT_EQ(m->Metin(1, 20), "20.000");
+  EXPECT_EQ(m->data(m->index(0, 20), Qt::TextAlignmentRole).toInt(),
+            int(Qt::AlignRight | Qt::AlignVCenter));
+
+  Bas(f->cmdCSV);
+  QFile csv(Dosya("MaliyeBilgiKontrol.csv"));
+  ASSERT_TRUE(csv.open(QIODevice::ReadOnly));
+  const QList<QByteArray> satirlar = csv.readAll().split('\n');
+  ASSERT_EQ(satirlar.size(), 5);  // names, three rows, nothing behind the last CR LF
+  EXPECT_TRUE(satirlar[0].startsWith("VergiKimlikNo\tMusteriNo\t"));
+  EXPECT_TRUE(satirlar[1].startsWith("1234567890\t4\tKAYA\t" + QString("ŞÜKRÜ").toUtf8()));
+  EXPECT_EQ(f->rsKontrol.AbsolutePosition(), 1);
+}
+
+TEST_F(MaliyeEkran, BosDonemGridGizliDosyaYineAcilir) {
+  Veri();
+  auto* f = Ac();
+  Donem(f, 6, 2005, 6, 2005);
+  Bas(f->cmdHazirla);
+  EXPECT_EQ(MesajMetinleri().size(), 1);
+  EXPECT_EQ(Mesajlar()[0].baslik, "DİKKAT");
+  EXPECT_EQ(f->lblMesaj->text(), "Ödünç Tutar : 0,00\nTahsil Tutar:  0,00");
+  EXPECT_FALSE(f->DataGrid1->isVisible());
+  EXPECT_FALSE(f->cmdCSV->isVisible());
+  EXPECT_EQ(acilan_.size(), 1);
+  EXPECT_EQ(Dosyalar(), QStringList{"Velmora.xml"});
+}
+
+TEST_F(MaliyeEkran, CalisirkenIkinciBasisYokSayilir) {
+  Veri();
+  auto* f = Ac();
+  Donem(f, 1, 2005, 3, 2005);
+  // While the rate warning stands, the clerk presses the button again.
+  QStringList basliklar;
+  mesaj::CevaplayiciKur([&](const mesaj::Kayit& k) {
+    basliklar << k.baslik;
+    if (k.baslik == "UYARI") {
+      EXPECT_FALSE(f->cmdHazirla->isEnabled());
+      QTest::mouseClick(f->cmdHazirla, Qt::LeftButton);
+      f->cmdHazirla_Click();
+      // Nor can the screen be closed under the run.
+      QTest::mouseClick(f->cmdExit, Qt::LeftButton);
+      EXPECT_TRUE(f->isVisible());
+    }
+    return mesaj::Dugme::Tamam;
+  });
+  Bas(f->cmdHazirla);
+  EXPECT_EQ(basliklar.count("DİKKAT"), 1);
+  EXPECT_EQ(basliklar.count("UYARI"), 1);
+  EXPECT_TRUE(f->cmdHazirla->isEnabled());
+}
+
+TEST_F(MaliyeEkran, YazilamayanKlasorMesajVerir) {
+  Veri();
+  const QString dosya = Dosya("engel");
+  {
+    QFile f(dosya);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+  }
+  qputenv("VELMORA_CIKTI", (dosya + "/alt").toUtf8());
+  auto* f = Ac();
+  Donem(f, 1, 2005, 3, 2005);
+  Bas(f->cmdHazirla);
+  ASSERT_EQ(MesajMetinleri().size(), 1);
+  EXPECT_TRUE(Mesajlar()[0].metin.startsWith("Bir Hata Oluştu\n"));
+  EXPECT_EQ(Mesajlar()[0].baslik, "HATA");
+  EXPECT_TRUE(acilan_.isEmpty());
+  EXPECT_TRUE(f->cmdHazirla->isEnabled());
+}
+
+}  // namespace

@@ -1,0 +1,387 @@
+#include "transfer/MaliyeAktarim.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QSaveFile>
+
+#include "core/Genel.h"
+#include "transfer/MaliyeDosyasi.h"
+#include "transfer/MaliyeSema.h"
+
+namespace aktarim {
+
+namespace {
+
+// The columns of both SELECTs up to the type column.
+const char* const kSutunlar =
+    " SELECT M.VergiKimlikNo, M.MusteriNo, M.Soyadi, M.Adi, M.BabaAdi, M.Adres, M.Ilce,"
+    " M.PostaKod, M.Il_Ad, M.IlKod, M.TCKimlikNo, M.VekilDurum, M.VekilVergiKimlik,"
+    " M.VekilSoyadi, M.VekilAdi, M.Uyruk, M.HukukiDurum";
+
+}  // namespace
+
+// Contracts by their date, collected papers by their payment day; UNION
+// merges equal rows of one customer, and the count goes after that. The
+// order (customer, type, date) goes by position: a compound query knows its
+// columns by the first SELECT's aliases only.
+QString AnaSorgu() {
+  return QString::fromLatin1(kSutunlar) +
+         QStringLiteral(
+             " , 1 AS TIP, S.Doviz, S.Tarih, S.Tutar * ? AS Tutar, S.FaizTutar * ? AS FaizTutar,"
+             " S.SozlesmeSeri, S.SozlesmeNo"
+             " FROM Musteri M INNER JOIN Sozlesme S ON M.MusteriNo = S.MusteriNo"
+             " WHERE S.Tarih BETWEEN ? AND ? AND S.Tutar >= ?"
+             " UNION") +
+         QString::fromLatin1(kSutunlar) +
+         QStringLiteral(
+             " , 2, SD.Doviz, SD.Odenmesi, SD.Meblag * ?, 0, ' ', ' '"
+             " FROM (Musteri M INNER JOIN Sozlesme S ON M.MusteriNo = S.MusteriNo)"
+             " INNER JOIN SozlesmeDetay SD ON S.SozlesmeID = SD.SozlesmeID"
+             " WHERE SD.Odenmesi BETWEEN ? AND ? AND SD.Meblag >= ?"
+             " ORDER BY 2, 18, 20");
+}
+
+namespace {
+
+QString Sql(const QDate& d) { return d.toString(QStringLiteral("yyyy-MM-dd")); }
+
+double Toplam(db::Baglanti& b, const QString& sql, const QVariantList& deger) {
+  const QVariant v = b.Deger(sql, deger);
+  return db::NullMu(v) ? 0.0 : v.toDouble();
+}
+
+// Column positions of the main query.
+enum Sutun {
+  cVergiKimlikNo,
+  cMusteriNo,
+  cSoyadi,
+  cAdi,
+  cBabaAdi,
+  cAdres,
+  cIlce,
+  cPostaKod,
+  cIl_Ad,
+  cIlKod,
+  cTCKimlikNo,
+  cVekilDurum,
+  cVekilVergiKimlik,
+  cVekilSoyadi,
+  cVekilAdi,
+  cUyruk,
+  cHukukiDurum,
+  cTIP,
+  cDoviz,
+  cTarih,
+  cTutar,
+  cFaizTutar,
+  cSozlesmeSeri,
+  cSozlesmeNo
+};
+
+QString Metin(const QVariant& v) { return db::NullMu(v) ? QString() : v.toString(); }
+
+void Kaydet(QSaveFile& f, const QByteArray& icerik) {
+  if (f.write(icerik) != icerik.size() || !f.commit())
+    throw DosyaHatasi(f.fileName() + QStringLiteral(": ") + f.errorString());
+}
+
+QSaveFile* Ac(QSaveFile& f) {
+  if (!f.open(QIODevice::WriteOnly))
+    throw DosyaHatasi(f.fileName() + QStringLiteral(": ") + f.errorString());
+  return &f;
+}
+
+class Aktarim {
+ public:
+  Aktarim(db::Baglanti& b, const Istek& i, const Geri& g)
+      : b_(b), i_(i), g_(g), v_(VaryantSec(i.son.year())) {}
+
+  Sonuc Calistir() {
+    QDir().mkpath(i_.klasor);
+    const QString dosya = QDir(i_.klasor).filePath(QString::fromLatin1(kDosyaAdi));
+    QSaveFile f(dosya);
+    Ac(f);
+    const QVariant bas = Sql(i_.bas), son = Sql(i_.son);
+    s_.satirlar = b_.Sorgu(
+        AnaSorgu(), {v_.carpan, v_.carpan, bas, son, i_.limit, v_.carpan, bas, son, i_.limit});
+    s_.kayitToplam = s_.satirlar.RecordCount();
+    Toplamlar(bas, son);
+
+    MaliyeYazici y(f, v_);
+    y.Bas(Ofis(), BilgiDonem(), i_.bugun.toString(QStringLiteral("yyyyMMdd")), s_.kayitToplam,
+          s_.odverToplam, s_.odtahToplam);
+    s_.ozet = QStringLiteral("Ödünç Tutar : ") + Genel::SayiYaz(s_.odverToplam, v_.basamak) +
+              QStringLiteral("\r\nTahsil Tutar:  ") + Genel::SayiYaz(s_.odtahToplam, v_.basamak);
+    if (s_.kayitToplam > 0) {
+      y.KayitlarBas();
+      Satirlar(y);
+      s_.ozet += QStringLiteral("\r\n Aktarılan Kayıt: ") + Genel::SayiYaz(s_.yapilan, 0);
+      y.KayitlarSon();
+    }
+    y.Son();
+    if (!y.Tamam()) throw DosyaHatasi(dosya + QStringLiteral(": ") + f.errorString());
+    HataListesi();
+    if (!f.commit()) throw DosyaHatasi(dosya + QStringLiteral(": ") + f.errorString());
+    s_.dosya = dosya;
+    s_.semaHatasi = SemayaUygunMu(dosya, v_);
+    s_.satirlar.MoveFirst();
+    return std::move(s_);
+  }
+
+ private:
+  void Toplamlar(const QVariant& bas, const QVariant& son) {
+    const QVariantList d = {v_.carpan, bas, son, i_.limit};
+    s_.odverToplam =
+        Toplam(b_,
+               QStringLiteral("SELECT SUM(Tutar * ?) FROM Sozlesme WHERE Tarih BETWEEN ? AND ?"
+                              " AND Tutar >= ? AND Doviz = 'TRL'"),
+               d) +
+        Toplam(b_,
+               QStringLiteral("SELECT SUM(Kur.Kur * S.Tutar * ?) FROM Sozlesme S INNER JOIN Kur"
+                              " ON S.Tarih = Kur.Tarih AND S.Doviz = Kur.Doviz"
+                              " WHERE S.Tarih BETWEEN ? AND ? AND S.Tutar >= ?"
+                              " AND S.Doviz <> 'TRL'"),
+               d);
+    // By due date and without a join: the figures of earlier filings were
+    // made so, though the rows go by the day of payment.
+    s_.odtahToplam = Toplam(b_,
+                            QStringLiteral("SELECT SUM(Meblag * ?) FROM SozlesmeDetay WHERE "
+                                           "Vadesi BETWEEN ? AND ? AND Meblag >= ?"),
+                            d);
+  }
+
+  QString BilgiDonem() const {
+    return i_.bas.toString(QStringLiteral("yyyyMM")) + QLatin1Char('-') +
+           i_.son.toString(QStringLiteral("yyyyMM"));
+  }
+
+  // A province code in two digits; a missing one is "00" and a fault.
+  QString IlKodu(const QVariant& v, const QString& kim) {
+    if (db::NullMu(v)) {
+      s_.hatalar << kim + QStringLiteral(" İl kodu eksik.");
+      return QStringLiteral("00");
+    }
+    return Genel::IkiHane(v.toInt());
+  }
+
+  aktarim::Ofis Ofis() {
+    aktarim::Ofis o;
+    db::Kayitlar rs = b_.Sorgu(QStringLiteral("SELECT * FROM Firma"));
+    if (rs.Eof()) {
+      s_.hatalar << QStringLiteral("Firma bilgilerinin İl kodu eksik.");
+      o.ilKodu = QStringLiteral("00");
+      return o;
+    }
+    o.vkn = rs.Metin(QStringLiteral("VergiKimlikNo"));
+    o.unvan =
+        (rs.Metin(QStringLiteral("Soyadi")) + QLatin1Char(' ') + rs.Metin(QStringLiteral("Adi")) +
+         QLatin1Char(' ') + rs.Metin(QStringLiteral("BabaAdi")))
+            .trimmed();
+    o.adres = rs.Metin(QStringLiteral("Adres"));
+    o.ilce = rs.Metin(QStringLiteral("Ilce"));
+    o.pk = rs.Metin(QStringLiteral("PostaKod"));
+    const QVariant il = rs.Fields(QStringLiteral("IlKod"));
+    if (!db::NullMu(il))
+      o.ilAdi =
+          Metin(b_.Deger(QStringLiteral("SELECT Il FROM Il_Trafik_Kodu WHERE IlKod = ?"), {il}));
+    o.ilKodu = IlKodu(il, QStringLiteral("Firma bilgilerinin"));
+    return o;
+  }
+
+  // The tax number check of a customer or of the proxy.
+  QString Vkn(const QString& metin, const QString& kim, bool vekil) {
+    const Doldurma d = SifirDoldur(metin, 10);
+    const QString v = vekil ? QStringLiteral(" Müşterisinin Vekil Vergi numara")
+                            : QStringLiteral(" Müşterisinin Vergi numara");
+    if (d.kisa) s_.hatalar << kim + v + QStringLiteral("sının uzunluğu hatalı.");
+    if (d.sifir) s_.hatalar << kim + v + QStringLiteral("sı Hatalı");
+    return d.metin;
+  }
+
+  Kisi KisiOku(const db::Kayitlar& rs) {
+    const auto m = [&rs](int c) { return Metin(rs.Fields(c)); };
+    const QString kim =
+        m(cMusteriNo) + QStringLiteral(" Numaralı ") + m(cSoyadi) + QLatin1Char(' ') + m(cAdi);
+    Kisi k;
+    const QVariant uyruk = rs.Fields(cUyruk);
+    k.uyrukIkinci = db::NullMu(uyruk) || uyruk.toInt() == 2;
+    const QVariant hukuki = rs.Fields(cHukukiDurum);
+    k.hukukiYapi = Genel::IkiHane(db::NullMu(hukuki) ? 0 : hukuki.toInt());
+    k.vkn = Vkn(m(cVergiKimlikNo), kim, false);
+    k.soyad = m(cSoyadi);
+    k.ad = m(cAdi);
+    k.babaAdi = m(cBabaAdi);
+    k.adres = m(cAdres);
+    k.ilce = m(cIlce);
+    k.pk = m(cPostaKod);
+    k.ilAdi = m(cIl_Ad);
+    k.ilKodu = IlKodu(rs.Fields(cIlKod), kim + QStringLiteral(" Müşterisinin"));
+    k.tckn = SifirDoldur(m(cTCKimlikNo), 11).metin;
+    const QVariant vekil = rs.Fields(cVekilDurum);
+    k.vekilDurum = db::NullMu(vekil) ? 0 : vekil.toInt();
+    if (k.vekilDurum > 0) {
+      k.vekilVkn = Vkn(m(cVekilVergiKimlik), kim, true);
+      k.vekilSoyad = m(cVekilSoyadi);
+      k.vekilAd = m(cVekilAdi);
+    }
+    return k;
+  }
+
+  QString Tutar(const QVariant& v) const {
+    return db::NullMu(v) ? QString() : TutarYaz(v.toDouble(), v_.basamak);
+  }
+  QString Carp(const QVariant& v, const QVariant& kur) const {
+    if (db::NullMu(v) || db::NullMu(kur)) return QString();
+    return TutarYaz(v.toDouble() * kur.toDouble(), v_.basamak);
+  }
+
+  void KurUyar(const QString& metin) {
+    s_.kurUyarilari << metin;
+    if (g_.kurUyarisi) g_.kurUyarisi(metin);
+  }
+
+  void Odver(MaliyeYazici& y, const db::Kayitlar& rs) {
+    const QString tarih = Metin(rs.Fields(cTarih));
+    const QString sozTar = GunYaz(tarih);
+    const QString sozNo = SozNo(Metin(rs.Fields(cSozlesmeSeri)), Metin(rs.Fields(cSozlesmeNo)));
+    const QVariant doviz = rs.Fields(cDoviz);
+    const QVariant tutar = rs.Fields(cTutar), faiz = rs.Fields(cFaizTutar);
+    // A contract without a currency goes down the lira path.
+    if (db::NullMu(doviz) || doviz.toString() == QLatin1String("TRL")) {
+      y.Odver(sozTar, sozNo, true, Tutar(tutar), QStringLiteral("0"), Tutar(faiz),
+              QStringLiteral("0"));
+      return;
+    }
+    db::Kayitlar kur =
+        b_.Sorgu(QStringLiteral("SELECT Kur, CaprazKur FROM Kur WHERE Tarih = ? AND Doviz = ?"),
+                 {tarih, doviz});
+    if (kur.Eof() || db::NullMu(kur.Fields(0))) {
+      KurUyar(QString::fromUtf8(kKurUyarisi));
+      y.Odver(sozTar, sozNo, false, {}, {}, {}, {});
+      return;
+    }
+    if (db::NullMu(kur.Fields(1)))
+      KurUyar(QString::fromUtf8(kKurUyarisi) + QStringLiteral(" (Çapraz kur yok: ") +
+              Genel::TarihEkran(tarih) + QLatin1Char(' ') + doviz.toString() + QLatin1Char(')'));
+    y.Odver(sozTar, sozNo, true, Carp(tutar, kur.Fields(0)), Carp(tutar, kur.Fields(1)),
+            Carp(faiz, kur.Fields(0)), Carp(faiz, kur.Fields(1)));
+  }
+
+  void Satirlar(MaliyeYazici& y) {
+    db::Kayitlar& rs = s_.satirlar;
+    QString onceki;
+    bool ilk = true;
+    for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext()) {
+      const QString no = Metin(rs.Fields(cMusteriNo));
+      if (ilk || no != onceki) {
+        y.Musteri(KisiOku(rs));
+        onceki = no;
+        ilk = false;
+      }
+      if (rs.Fields(cTIP).toInt() == 1)
+        Odver(y, rs);
+      else
+        y.Odtah(GunYaz(Metin(rs.Fields(cTarih))), Tutar(rs.Fields(cTutar)));
+      ++s_.yapilan;
+      if (g_.ilerleme) g_.ilerleme(s_.yapilan);
+    }
+  }
+
+  void HataListesi() {
+    if (s_.hatalar.isEmpty()) return;
+    // One print line: every entry with its line end, and the line's own.
+    QString metin;
+    for (const QString& h : s_.hatalar) metin += h + QStringLiteral("\r\n");
+    QSaveFile f(QDir(i_.klasor).filePath(QString::fromLatin1(kHataDosyasi)));
+    Ac(f);
+    Kaydet(f, (metin + QStringLiteral("\r\n")).toUtf8());
+  }
+
+  db::Baglanti& b_;
+  const Istek& i_;
+  const Geri& g_;
+  Varyant v_;
+  Sonuc s_;
+};
+
+}  // namespace
+
+QDate DonemBasi(int ay, int yil) { return QDate(yil, ay, 1); }
+
+QDate DonemSonu(int ay, int yil) {
+  switch (ay) {
+    case 2:
+      return QDate(yil, 2, 28);
+    case 4:
+    case 6:
+    case 9:
+    case 11:
+      return QDate(yil, ay, 30);
+    default:
+      return QDate(yil, ay, 31);
+  }
+}
+
+double LimitKurali(double limit) {
+  if (limit > 250000) return Genel::YuvarlaBankaci(limit / 1000000.0, 0);
+  return Genel::YuvarlaYarimYukari(limit, 0);
+}
+
+QString CiktiDizini() {
+  QString d = qEnvironmentVariable("VELMORA_CIKTI");
+  if (d.isEmpty()) {
+    QProcess p;
+    p.start(QStringLiteral("xdg-user-dir"), {QStringLiteral("DOCUMENTS")});
+    if (p.waitForFinished(3000) && p.exitStatus() == QProcess::NormalExit && p.exitCode() == 0)
+      d = QString::fromLocal8Bit(p.readAllStandardOutput()).trimmed();
+  }
+  if (d.isEmpty()) {
+    const QString belgeler = QDir::home().filePath(QStringLiteral("Belgeler"));
+    d = QDir(belgeler).exists() ? belgeler : QDir::homePath();
+  }
+  QDir().mkpath(d);
+  return d;
+}
+
+Sonuc Hazirla(db::Baglanti& b, const Istek& istek, const Geri& geri) {
+  return Aktarim(b, istek, geri).Calistir();
+}
+
+QByteArray KontrolListesi(const db::Kayitlar& rs) {
+  QByteArray out;
+  if (rs.RecordCount() == 0) return out;
+  const QChar tab = QLatin1Char('\t');
+  QString satir;
+  for (const QString& ad : rs.Alanlar()) satir += ad + tab;
+  out += satir.toUtf8() + "\r\n";
+  const int tarih = rs.AlanNo(QStringLiteral("Tarih"));
+  for (int r = 0; r < rs.RecordCount(); ++r) {
+    satir.clear();
+    for (int c = 0; c < rs.AlanSayisi(); ++c) {
+      const QVariant v = rs.Deger(r, c);
+      QString t;
+      if (db::NullMu(v))
+        t.clear();
+      else if (c == tarih)
+        t = Genel::TarihEkran(v);
+      else if (v.typeId() == QMetaType::Double)
+        t = QString::number(v.toDouble(), 'g', 15)
+                .replace(QLatin1Char('.'), Genel::Bolge().ondalik);
+      else
+        t = v.toString();
+      satir += t + tab;
+    }
+    out += satir.toUtf8() + "\r\n";
+  }
+  return out;
+}
+
+QString KontrolListesiYaz(const db::Kayitlar& rs, const QString& klasor) {
+  QDir().mkpath(klasor);
+  QSaveFile f(QDir(klasor).filePath(QString::fromLatin1(kKontrolDosyasi)));
+  Ac(f);
+  Kaydet(f, KontrolListesi(rs));
+  return f.fileName();
+}
+
+}  // namespace aktarim
