@@ -6,13 +6,14 @@
 #include <QTextStream>
 #include <cstdio>
 
+#include "contract/frmNoDegis.h"
+#include "contract/frmSozles.h"
 #include "core/Genel.h"
 #include "core/Uygulama.h"
 #include "core/frmMain.h"
 #include "master/frmFirma.h"
 #include "master/frmMusteri.h"
-#include "contract/frmNoDegis.h"
-#include "contract/frmSozles.h"
+#include "reports/frmTahsilat.h"
 
 namespace {
 
@@ -35,10 +36,9 @@ void Yaz(FILE* f, const QString& s) {
 int Yaziyla(const QString& tutar) {
   Genel::BinlikAyirici = QString(Genel::Bolge().binlik);
   double deger = 0;
-  if (tutar.trimmed().isEmpty() || !Genel::SayiOkuDene(tutar, deger) ||
-      std::abs(deger) >= 1e15) {
-    Yaz(stderr, QStringLiteral("Geçersiz tutar: \"%1\". Tutarı 1.234,56 biçiminde yazınız.\n")
-                    .arg(tutar));
+  if (tutar.trimmed().isEmpty() || !Genel::SayiOkuDene(tutar, deger) || std::abs(deger) >= 1e15) {
+    Yaz(stderr,
+        QStringLiteral("Geçersiz tutar: \"%1\". Tutarı 1.234,56 biçiminde yazınız.\n").arg(tutar));
     return 2;
   }
   Yaz(stdout, Genel::YaziyaCevir(deger) + QLatin1Char('\n'));
@@ -50,6 +50,7 @@ void EkranlariKaydet() {
   master::MusteriEkranlariKaydet();
   contract::NoDegisEkraniKaydet();
   contract::SozlesmeEkraniKaydet();
+  reports::TahsilatEkraniKaydet();
 }
 
 }  // namespace
@@ -88,7 +89,8 @@ int main(int argc, char** argv) {
       QCoreApplication uyg(argc, argv);
       return Yaziyla(args[1]);
     }
-    Yaz(stderr, QStringLiteral("Bilinmeyen komut: %1\n\n").arg(args[0]) + QString::fromUtf8(kYardim));
+    Yaz(stderr,
+        QStringLiteral("Bilinmeyen komut: %1\n\n").arg(args[0]) + QString::fromUtf8(kYardim));
     return 2;
   }
 
