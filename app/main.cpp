@@ -13,6 +13,9 @@
 #include "core/frmMain.h"
 #include "master/frmFirma.h"
 #include "master/frmMusteri.h"
+#include "reports/frmMusteriBilgi.h"
+#include "reports/frmMusteriDurum.h"
+#include "reports/frmRapor.h"
 #include "reports/frmTahsilat.h"
 
 namespace {
@@ -51,6 +54,9 @@ void EkranlariKaydet() {
   contract::NoDegisEkraniKaydet();
   contract::SozlesmeEkraniKaydet();
   reports::TahsilatEkraniKaydet();
+  reports::MusteriBilgiEkraniKaydet();
+  reports::GelirEkraniKaydet();
+  reports::MusteriDurumEkraniKaydet();
 }
 
 }  // namespace
