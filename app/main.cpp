@@ -13,6 +13,7 @@
 #include "core/frmMain.h"
 #include "master/frmFirma.h"
 #include "master/frmMusteri.h"
+#include "reports/frmKesideciBilgi.h"
 #include "reports/frmMusteriBilgi.h"
 #include "reports/frmMusteriDurum.h"
 #include "reports/frmRapor.h"
@@ -57,6 +58,7 @@ void EkranlariKaydet() {
   reports::MusteriBilgiEkraniKaydet();
   reports::GelirEkraniKaydet();
   reports::MusteriDurumEkraniKaydet();
+  reports::KesideciEkraniKaydet();
 }
 
 }  // namespace
