@@ -13,6 +13,7 @@
 #include "core/frmMain.h"
 #include "master/frmFirma.h"
 #include "master/frmMusteri.h"
+#include "reports/RaporKomutu.h"
 #include "reports/frmKesideciBilgi.h"
 #include "reports/frmMusteriBilgi.h"
 #include "reports/frmMusteriDurum.h"
@@ -86,8 +87,16 @@ int main(int argc, char** argv) {
   if (!args.isEmpty()) {
     if (args[0] == QLatin1String("--help") || args[0] == QLatin1String("-h") ||
         args[0] == QLatin1String("yardim")) {
-      Yaz(stdout, QString::fromUtf8(kYardim));
+      Yaz(stdout, QString::fromUtf8(kYardim) + QLatin1Char('\n') +
+                      QString::fromUtf8(raporkomutu::kKullanim));
       return 0;
+    }
+    if (args[0] == QLatin1String("rapor")) {
+      QCoreApplication uyg(argc, argv);
+      return raporkomutu::Calistir(
+          args.mid(1),
+          [] { Genel::Baglanti.Ac(Genel::VeriTabaniYolu(), db::Baglanti::Kip::SadeceOku); },
+          [](const QString& m) { Yaz(stderr, m + QLatin1Char('\n')); });
     }
     if (args[0] == QLatin1String("yaziyla")) {
       if (args.size() != 2) {

@@ -48,8 +48,13 @@ bool Kaydet(const QString& yol, const QByteArray& veri, QString* hata) {
 QString Metin(const QVariant& deger, const Sutun& sutun) {
   if (db::NullMu(deger)) return QString();
   switch (sutun.bicim) {
-    case Sutun::Bicim::Sayi:
-      return Genel::SayiYaz(deger.toDouble(), sutun.basamak, sutun.gruplu);
+    case Sutun::Bicim::Sayi: {
+      QString m = Genel::SayiYaz(deger.toDouble(), sutun.basamak, sutun.gruplu);
+      const QString sifir = QStringLiteral("0") + Genel::Bolge().ondalik;
+      if (!sutun.onSifir && m.startsWith(sifir)) m.remove(0, 1);
+      if (!sutun.onSifir && m.startsWith(QLatin1Char('-') + sifir)) m.remove(1, 1);
+      return m;
+    }
     case Sutun::Bicim::Tarih:
       return Genel::TarihEkran(deger);
     case Sutun::Bicim::Duz:

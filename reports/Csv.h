@@ -37,6 +37,7 @@ struct Sutun {
   Bicim bicim = Bicim::Duz;
   int basamak = 2;
   bool gruplu = true;
+  bool onSifir = true;  // false: 0,50 is written ",50"
 };
 
 // The text of a value by its column (Null is empty): numbers rounded half
