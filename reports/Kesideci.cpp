@@ -64,4 +64,29 @@ Sorgu BelgeSorgusu(const QStringList& isaretli, const QString& bas, const QStrin
   return q;
 }
 
+Sorgu RiskSorgusu(const QDate& bugun) {
+  Sorgu q;
+  q.metin = QStringLiteral(
+      "SELECT Kesideci, "
+      "sum(CASE WHEN Odenmesi IS NULL THEN 1 ELSE 0 END) AS KarsiliksizAdet, "
+      "sum(CASE WHEN Odenmesi IS NULL THEN Meblag ELSE 0 END) AS KarsiliksizTutar, "
+      "sum(CASE WHEN Odenmesi > ? THEN 1 ELSE 0 END) AS RiskAdet, "
+      "sum(CASE WHEN Odenmesi > ? THEN Meblag ELSE 0 END) AS RiskTutar "
+      "FROM SozlesmeDetay WHERE Kesideci IS NOT NULL GROUP BY Kesideci "
+      "HAVING sum(CASE WHEN Odenmesi IS NULL THEN 1 ELSE 0 END) > 0 "
+      "ORDER BY KarsiliksizAdet DESC, KarsiliksizTutar DESC, Kesideci COLLATE TURKCE");
+  const QString gun = bugun.toString(Qt::ISODate);
+  q.deger << gun << gun;
+  return q;
+}
+
+QVector<csv::Sutun> RiskSutunlari() {
+  using B = csv::Sutun::Bicim;
+  return {{QStringLiteral("Kesideci"), QStringLiteral("Keşideci")},
+          {QStringLiteral("KarsiliksizAdet"), QStringLiteral("K.Sız Adet"), B::Sayi, 0, true},
+          {QStringLiteral("KarsiliksizTutar"), QStringLiteral("K.Sız Tutar"), B::Sayi, 2, true},
+          {QStringLiteral("RiskAdet"), QStringLiteral("Risk Adet"), B::Sayi, 0, true},
+          {QStringLiteral("RiskTutar"), QStringLiteral("Risk Tutar"), B::Sayi, 2, true}};
+}
+
 }  // namespace kesideci

@@ -6,6 +6,7 @@
 #include "core/Genel.h"
 #include "reports/Csv.h"
 #include "reports/Gelir.h"
+#include "reports/Kesideci.h"
 #include "reports/MusteriDurum.h"
 #include "reports/Tahsilat.h"
 
@@ -16,7 +17,9 @@ const char* const kKullanim =
     "  velmora rapor gelir [--bas GG.AA.YYYY] [--son GG.AA.YYYY] --csv DOSYA\n"
     "                                           gelir raporunu CSV dosyasına yazar\n"
     "  velmora rapor cekler [--bas GG.AA.YYYY] [--son GG.AA.YYYY] --csv DOSYA\n"
-    "                                           çekleri vadeye göre CSV dosyasına yazar\n";
+    "                                           çekleri vadeye göre CSV dosyasına yazar\n"
+    "  velmora rapor kesideci-risk --csv DOSYA  karşılıksızı olan keşidecileri CSV dosyasına "
+    "yazar\n";
 
 namespace {
 
@@ -64,14 +67,16 @@ bool TarihMi(const QString& s) {
 }
 
 QString Oku(const QStringList& arg, Secenekler& s) {
-  if (arg.isEmpty()) return QStringLiteral("Rapor adı eksik: cari, gelir veya cekler.");
+  if (arg.isEmpty())
+    return QStringLiteral("Rapor adı eksik: cari, gelir, cekler veya kesideci-risk.");
   s.rapor = arg[0];
   if (s.rapor != QLatin1String("cari") && s.rapor != QLatin1String("gelir") &&
-      s.rapor != QLatin1String("cekler"))
-    return QStringLiteral("Bilinmeyen rapor: %1 (cari, gelir veya cekler).").arg(s.rapor);
+      s.rapor != QLatin1String("cekler") && s.rapor != QLatin1String("kesideci-risk"))
+    return QStringLiteral("Bilinmeyen rapor: %1 (cari, gelir, cekler veya kesideci-risk).")
+        .arg(s.rapor);
   for (int i = 1; i < arg.size(); i += 2) {
     const QString& a = arg[i];
-    const bool tarihli = s.rapor != QLatin1String("cari");
+    const bool tarihli = s.rapor == QLatin1String("gelir") || s.rapor == QLatin1String("cekler");
     if (a != QLatin1String("--csv") &&
         !(tarihli && (a == QLatin1String("--bas") || a == QLatin1String("--son"))))
       return QStringLiteral("Bilinmeyen seçenek: %1").arg(a);
@@ -92,6 +97,10 @@ QString Oku(const QStringList& arg, Secenekler& s) {
 QByteArray Uret(const Secenekler& s) {
   if (s.rapor == QLatin1String("cari"))
     return csv::Yaz(musteridurum::Oku(QDate::currentDate()), musteridurum::Sutunlar());
+  if (s.rapor == QLatin1String("kesideci-risk")) {
+    const kesideci::Sorgu q = kesideci::RiskSorgusu(QDate::currentDate());
+    return csv::Yaz(Genel::Baglanti.Sorgu(q.metin, q.deger), kesideci::RiskSutunlari());
+  }
   if (s.rapor == QLatin1String("gelir")) {
     const gelir::Sorgu q = gelir::SorguKur(s.bas, s.son);
     return csv::Yaz(Genel::Baglanti.Sorgu(q.metin, q.deger), GelirSutunlari());

@@ -4,6 +4,7 @@
 //   velmora rapor cari --csv DOSYA                               every customer's status
 //   velmora rapor gelir [--bas GG.AA.YYYY] [--son GG.AA.YYYY] --csv DOSYA  income
 //   velmora rapor cekler [--bas GG.AA.YYYY] [--son GG.AA.YYYY] --csv DOSYA papers by maturity
+//   velmora rapor kesideci-risk --csv DOSYA                      drawers by bounced papers
 //
 // Each writes the same rows, captions and formats as its screen's grid.
 

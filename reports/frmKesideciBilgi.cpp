@@ -1,5 +1,6 @@
 #include "reports/frmKesideciBilgi.h"
 
+#include <QDate>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -51,6 +52,20 @@ frmKesideciBilgi::frmKesideciBilgi() {
     for (const char* gizli : {"Gun", "Karsilik", "Odenmesi", "SozlesmeSeri", "MeblagTL"})
       m->Gizle(QString::fromLatin1(gizli));
   }
+  cmdRiskli = Dugme("cmdRiskli", QStringLiteral("Riskli Keşideciler"));
+  cmdRiskliCsv = csv::CsvDugmesi();
+  cmdRiskliCsv->setObjectName(QStringLiteral("cmdRiskliCsv"));
+  grdRiskli = new ekran::Izgara;
+  grdRiskli->setObjectName(QStringLiteral("grdRiskli"));
+  {
+    ekran::IzgaraModeli* m = grdRiskli->Model();
+    for (const csv::Sutun& c : kesideci::RiskSutunlari()) {
+      m->Baslik(c.alan, c.baslik);
+      if (c.bicim == csv::Sutun::Bicim::Sayi) m->SayiBicimi(c.alan, c.basamak, c.gruplu);
+    }
+  }
+  grdRiskli->hide();
+  cmdRiskliCsv->hide();
   txtAdet = ekran::Kutu(QStringLiteral("txtAdet"), 0, false);
   txtToplam = ekran::Kutu(QStringLiteral("txtToplam"), 0, false);
   for (QLineEdit* k : {txtAdet, txtToplam}) {
@@ -65,6 +80,7 @@ frmKesideciBilgi::frmKesideciBilgi() {
   arama->addWidget(txtAranacak, 1);
   arama->addWidget(chkBas);
   arama->addWidget(cmdDoldur);
+  arama->addWidget(cmdRiskli);
   auto* tarihler = new QHBoxLayout;
   tarihler->addWidget(new QLabel(QStringLiteral("Başlangıç Tarihi:")));
   tarihler->addWidget(txtBastar);
@@ -82,7 +98,13 @@ frmKesideciBilgi::frmKesideciBilgi() {
   alt->addWidget(cmdExit);
   auto* ana = new QVBoxLayout(this);
   ana->addLayout(arama);
-  ana->addWidget(lstKesideci);
+  auto* listeler = new QHBoxLayout;
+  listeler->addWidget(lstKesideci, 1);
+  auto* riskli = new QVBoxLayout;
+  riskli->addWidget(grdRiskli, 1);
+  riskli->addWidget(cmdRiskliCsv, 0, Qt::AlignRight);
+  listeler->addLayout(riskli, 2);
+  ana->addLayout(listeler);
   ana->addLayout(tarihler);
   ana->addWidget(dGridDetay, 1);
   ana->addLayout(alt);
@@ -92,11 +114,19 @@ frmKesideciBilgi::frmKesideciBilgi() {
   connect(cmdBilgiGoster, &QPushButton::clicked, this,
           [this] { ekran::Korumali([this] { Goster(); }); });
   connect(cmdCsv, &QPushButton::clicked, this, [this] { cmdCsv_Click(); });
+  connect(cmdRiskli, &QPushButton::clicked, this,
+          [this] { ekran::Korumali([this] { cmdRiskli_Click(); }); });
+  connect(grdRiskli, &ekran::Izgara::CiftTiklandi, this,
+          [this] { ekran::Korumali([this] { grdRiskli_DblClick(); }); });
+  connect(cmdRiskliCsv, &QPushButton::clicked, this, [this] { cmdRiskliCsv_Click(); });
   connect(cmdExit, &QPushButton::clicked, this, [this] { Kapat(); });
   Gorunum(false);
 }
 
-frmKesideciBilgi::~frmKesideciBilgi() { dGridDetay->Bagla(nullptr); }
+frmKesideciBilgi::~frmKesideciBilgi() {
+  dGridDetay->Bagla(nullptr);
+  grdRiskli->Bagla(nullptr);
+}
 
 void frmKesideciBilgi::Form_Load() { ekran::FormOrtala(this, 7170, 10200); }
 
@@ -142,6 +172,38 @@ void frmKesideciBilgi::Gorunum(bool goster) {
 
 void frmKesideciBilgi::cmdCsv_Click() {
   if (dGridDetay->isVisible()) csv::IzgaraKaydet(dGridDetay, QStringLiteral("kesideci.csv"), this);
+}
+
+void frmKesideciBilgi::cmdRiskli_Click() {
+  const kesideci::Sorgu q = kesideci::RiskSorgusu(QDate::currentDate());
+  grdRiskli->Bagla(nullptr);
+  rsRiskli = db::Kayitlar();
+  rsRiskli = Genel::Baglanti.Sorgu(q.metin, q.deger);
+  grdRiskli->Bagla(&rsRiskli);
+  grdRiskli->show();
+  cmdRiskliCsv->show();
+}
+
+void frmKesideciBilgi::grdRiskli_DblClick() {
+  if (!rsRiskli.SatirVar()) return;
+  const QString ad = rsRiskli.Metin(QStringLiteral("Kesideci"));
+  // The drawer's own entries are marked, and only they; a list without them
+  // is filled by the drawer's name first.
+  if (lstKesideci->findItems(ad, Qt::MatchExactly).isEmpty()) {
+    txtAranacak->setText(ad);
+    chkBas->setChecked(true);
+    cmdDoldur_Click();
+  }
+  lstKesideci->clearSelection();
+  const QList<QListWidgetItem*> ogeler = lstKesideci->findItems(ad, Qt::MatchExactly);
+  for (QListWidgetItem* o : ogeler) o->setSelected(true);
+  if (!ogeler.isEmpty()) lstKesideci->scrollToItem(ogeler.front());
+  Goster();
+}
+
+void frmKesideciBilgi::cmdRiskliCsv_Click() {
+  if (grdRiskli->isVisible())
+    csv::IzgaraKaydet(grdRiskli, QStringLiteral("riskli-kesideciler.csv"), this);
 }
 
 namespace reports {

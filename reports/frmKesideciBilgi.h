@@ -25,6 +25,9 @@ class frmKesideciBilgi : public ekran::Form {
   void Goster();
   void Gorunum(bool goster);
   void cmdCsv_Click();
+  void cmdRiskli_Click();
+  void grdRiskli_DblClick();
+  void cmdRiskliCsv_Click();
 
   QLineEdit* txtAranacak;
   QCheckBox* chkBas;
@@ -32,6 +35,10 @@ class frmKesideciBilgi : public ekran::Form {
   QListWidget* lstKesideci;
   QLineEdit *txtBastar, *txtSonTar;
   QPushButton *cmdBilgiGoster, *cmdCsv, *cmdExit;
+  // Drawers ranked by their bounced papers; a double click shows a drawer's papers.
+  QPushButton *cmdRiskli, *cmdRiskliCsv;
+  ekran::Izgara* grdRiskli;
+  db::Kayitlar rsRiskli;
   ekran::Izgara* dGridDetay;
   QLineEdit *txtAdet, *txtToplam;
   QLabel* lblTutar[2];

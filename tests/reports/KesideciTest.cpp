@@ -155,4 +155,44 @@ TEST_F(Kesideci, IsaretlilerinBelgeleriBirKezSayilir) {
   EXPECT_TRUE(f->txtSonTar->hasFocus());
 }
 
+// Drawers ranked by their bounced papers, with what is still at risk beside
+// them; a double click marks the drawer and shows its papers.
+TEST_F(Kesideci, RiskliKesideciler) {
+  Cek(7, "ONUR", "2026-02-02", "", 5);
+  Cek(8, "ONUR", "2099-01-01", "2099-01-01", 40);  // at risk
+  Cek(7, "ZEKİ", "2026-02-03", "", 2);
+  Cek(7, "ZEKİ", "2026-02-04", "", 2);
+  Cek(7, "ÇAĞLA", "2026-02-05", "", 4);
+  Cek(7, "ÇAĞLA", "2026-02-06", "", 0.5);
+  auto* f = Ac();
+  // The list holds other drawers; ZEKİ isn't among them.
+  Yaz(f->txtAranacak, "ON");
+  Tikla(f->cmdDoldur);
+  Tikla(f->cmdRiskli);
+  ASSERT_TRUE(f->grdRiskli->isVisible());
+  const auto* m = f->grdRiskli->Model();
+  QStringList sira;
+  for (int r = 0; r < m->rowCount(); ++r) {
+    QStringList s;
+    for (int c = 0; c < m->columnCount(); ++c) s << m->Metin(r, c);
+    sira << s.join('|');
+  }
+  // Count first, then amount; O'NEIL's bounced paper counts whatever contract.
+  EXPECT_EQ(sira.join('\n'),
+            "ÇAĞLA|2|4,50|0|0,00\nZEKİ|2|4,00|0|0,00\nONUR|1|5,00|1|40,00\n"
+            "O'NEIL|1|0,50|0|0,00");
+
+  const auto cift = [&](int satir) {
+    const QPoint p = f->grdRiskli->visualRect(m->index(satir, 0)).center();
+    QTest::mouseDClick(f->grdRiskli->viewport(), Qt::LeftButton, {}, p);
+    test::Isle();
+  };
+  cift(1);  // ZEKİ: not in the list, found and marked
+  EXPECT_EQ(Gorulen(f), "ALİ YILMAZ/AB-7/ZEKİ,ALİ YILMAZ/AB-7/ZEKİ|2|4,00");
+  cift(3);  // O'NEIL: only its own entries are marked
+  EXPECT_EQ(f->lstKesideci->selectedItems().size(), 3);
+  EXPECT_EQ(Gorulen(f), "ŞÜKRÜ KAYA/AB-8/O'NEIL,ALİ YILMAZ/AB-7/O'NEIL|2|100,50");
+  EXPECT_TRUE(Mesajlar().isEmpty());
+}
+
 }  // namespace

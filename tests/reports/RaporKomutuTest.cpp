@@ -8,6 +8,7 @@
 #include "core/Genel.h"
 #include "reports/IzgaraCsv.h"
 #include "reports/RaporKomutu.h"
+#include "reports/frmKesideciBilgi.h"
 #include "reports/frmMusteriDurum.h"
 #include "reports/frmRapor.h"
 #include "reports/frmTahsilat.h"
@@ -68,11 +69,13 @@ TEST_F(RaporKomutu, HataliGirisDosyaYazmaz) {
     const char* hata;
   };
   const Durum durumlar[] = {
-      {{}, "Rapor adı eksik: cari, gelir veya cekler."},
-      {{"borc", "--csv", dosya}, "Bilinmeyen rapor: borc (cari, gelir veya cekler)."},
+      {{}, "Rapor adı eksik: cari, gelir, cekler veya kesideci-risk."},
+      {{"borc", "--csv", dosya},
+       "Bilinmeyen rapor: borc (cari, gelir, cekler veya kesideci-risk)."},
       {{"cari"}, "--csv DOSYA eksik."},
       {{"cari", "--csv"}, "--csv seçeneği bir değer bekler."},
       {{"cari", "--bas", "01.01.2026", "--csv", dosya}, "Bilinmeyen seçenek: --bas"},
+      {{"kesideci-risk", "--son", "01.01.2026", "--csv", dosya}, "Bilinmeyen seçenek: --son"},
       {{"gelir", "--bas", "31.02.2026", "--csv", dosya},
        "Hatalı tarih: \"31.02.2026\". Tarihi GG.AA.YYYY biçiminde yazınız."},
       {{"cekler", "--son", "1.1.2026", "--csv", dosya},
@@ -129,6 +132,9 @@ TEST_F(RaporKomutu, DosyaEkraninIzgarasiylaAyni) {
     f.Yukle();
     EXPECT_EQ(EkranCsv([&] { f.cmdCsv_Click(); }), cari);
   }
+  ASSERT_EQ(Komut({"kesideci-risk", "--csv", dosya}).kod, 0);
+  EXPECT_EQ(Oku(dosya), QByteArray("\xef\xbb\xbfKeşideci;K.Sız Adet;K.Sız Tutar;Risk Adet;"
+                                   "Risk Tutar\r\nŞAHİN;1;400,00;0;0,00\r\n"));
 }
 
 }  // namespace
