@@ -2,6 +2,7 @@
 
 #include "core/Genel.h"
 #include "db/Kayitlar.h"
+#include "reports/Csv.h"
 
 namespace tahsilat {
 
@@ -86,13 +87,9 @@ Toplamlar ToplamlariOku(const Kosul& k) {
 }
 
 QString TutarYazisi(double tutar) {
-  QString m = Genel::SayiYaz(tutar, 2);
-  const QString sifir = QStringLiteral("0") + Genel::Bolge().ondalik;
-  if (m.startsWith(sifir))
-    m.remove(0, 1);
-  else if (m.startsWith(QLatin1Char('-') + sifir))
-    m.remove(1, 1);
-  return m;
+  csv::Sutun s{QString(), QString(), csv::Sutun::Bicim::Sayi, 2, true};
+  s.onSifir = false;
+  return csv::Metin(tutar, s);
 }
 
 QVariant OdemeDegeri(const QString& ekranTarihi) {
