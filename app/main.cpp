@@ -14,6 +14,12 @@
 #include "master/frmDovizTanim.h"
 #include "master/frmFirma.h"
 #include "master/frmMusteri.h"
+#include "reports/RaporKomutu.h"
+#include "reports/frmKesideciBilgi.h"
+#include "reports/frmMusteriBilgi.h"
+#include "reports/frmMusteriDurum.h"
+#include "reports/frmRapor.h"
+#include "reports/frmTahsilat.h"
 #include "transfer/MaliyeKomut.h"
 #include "transfer/frmMaliye.h"
 
@@ -49,7 +55,8 @@ int Yaziyla(const QString& tutar) {
 }
 
 QString Yardim() {
-  return QString::fromUtf8(kYardim).arg(QString::fromUtf8(aktarim::kKomutYardimi));
+  return QString::fromUtf8(kYardim).arg(QString::fromUtf8(aktarim::kKomutYardimi)) +
+         QLatin1Char('\n') + QString::fromUtf8(raporkomutu::kKullanim);
 }
 
 // The transfer without the window: the settings and the database as the
@@ -71,6 +78,11 @@ void EkranlariKaydet() {
   contract::NoDegisEkraniKaydet();
   contract::SozlesmeEkraniKaydet();
   transfer::MaliyeEkraniKaydet();
+  reports::TahsilatEkraniKaydet();
+  reports::MusteriBilgiEkraniKaydet();
+  reports::GelirEkraniKaydet();
+  reports::MusteriDurumEkraniKaydet();
+  reports::KesideciEkraniKaydet();
 }
 
 }  // namespace
@@ -100,6 +112,13 @@ int main(int argc, char** argv) {
         args[0] == QLatin1String("yardim")) {
       Yaz(stdout, Yardim());
       return 0;
+    }
+    if (args[0] == QLatin1String("rapor")) {
+      QCoreApplication uyg(argc, argv);
+      return raporkomutu::Calistir(
+          args.mid(1),
+          [] { Genel::Baglanti.Ac(Genel::VeriTabaniYolu(), db::Baglanti::Kip::SadeceOku); },
+          [](const QString& m) { Yaz(stderr, m + QLatin1Char('\n')); });
     }
     if (args[0] == QLatin1String("yaziyla")) {
       if (args.size() != 2) {
