@@ -3,14 +3,26 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QTextStream>
 #include <cstdio>
+#include <limits>
+#include <optional>
 
+#include "contract/SozlesmeBaski.h"
+#include "contract/SozlesmeYazdir.h"
 #include "contract/frmNoDegis.h"
+#include "contract/frmSipYazTanim.h"
 #include "contract/frmSozles.h"
 #include "core/Genel.h"
 #include "core/Uygulama.h"
+#include "core/Yazici.h"
 #include "core/frmMain.h"
+#include "db/Sema.h"
+#include "invoice/FaturaBaski.h"
+#include "invoice/FaturaOnizleme.h"
+#include "invoice/frmFatura.h"
+#include "invoice/frmFaturaEk.h"
 #include "master/frmDovizTanim.h"
 #include "master/frmFirma.h"
 #include "master/frmMusteri.h"
@@ -29,13 +41,24 @@ const char* const kYardim =
     "Kullanım:\n"
     "  velmora [--veri DİZİN] [--ayar DİZİN]   programı başlatır\n"
     "  velmora yaziyla TUTAR                    tutarı yazıyla yazar (örnek: 1.234,56)\n"
+    "  velmora yazdir sozlesme SOZLESMEID [--cikti DOSYA]\n"
+    "                                           sözleşmeyi yazdırır\n"
+    "  velmora yazdir fatura SOZLESMEID [--cikti DOSYA]\n"
+    "                                           sözleşmenin faturasını yazdırır\n"
+    "  velmora yazdir ekfatura SERI NO [--cikti DOSYA]\n"
+    "                                           sözleşmesiz faturayı yazdırır\n"
     "%1"
     "  velmora --help                           bu yardımı gösterir\n"
     "\n"
     "  --veri DİZİN   veri tabanının (velmora.db) dizini; yoksa $VELMORA_VERI,\n"
     "                 o da yoksa ~/.local/share/velmora\n"
     "  --ayar DİZİN   ayar dosyasının (velmora.ini) dizini; yoksa $VELMORA_AYAR,\n"
-    "                 o da yoksa ~/.config/velmora\n";
+    "                 o da yoksa ~/.config/velmora\n"
+    "\n"
+    "  yazdir, düğmelerin adımlarını yazıcı sorusu olmadan çalıştırır ve baytları\n"
+    "  --cikti ile verilen dosyaya (\"-\": standart çıktı), yoksa ayarlardaki yazıcıya\n"
+    "  gönderir. Bir ret (fatura yok, tutar hatalı...) mesajını standart hataya yazar\n"
+    "  ve 2 ile çıkar; yazıcıya ya da dökümün kendisine ait bir hata 1 ile çıkar.\n";
 
 void Yaz(FILE* f, const QString& s) {
   const QByteArray b = s.toUtf8();
@@ -71,6 +94,103 @@ int Maliye(const QStringList& args) {
   return aktarim::MaliyeKomutu(baglan, args, cikti, hata);
 }
 
+// --- velmora yazdir
+
+// A refusal or a failure, told on standard error, and the exit code.
+int Hata(const QString& metin, int kod) {
+  Yaz(stderr, metin + QLatin1Char('\n'));
+  return kod;
+}
+
+int Ret(const baski::Red& r) { return Hata(r.metin, 2); }
+
+// The stream to the file given ("-": standard output) or else to the
+// printer of the setting, as the buttons send it.
+int Gonder(const baski::Sonuc& akis, const QString& cikti, const QString& yazici) {
+  QString hata;
+  if (cikti == QLatin1String("-")) {
+    std::fwrite(akis.baytlar.constData(), 1, size_t(akis.baytlar.size()), stdout);
+    std::fflush(stdout);
+  } else {
+    hata = cikti.isEmpty() ? yazici::Gonder(yazici, akis)
+                           : yazici::Gonder({yazici::Hedef::Tur::Dosya, cikti}, akis);
+  }
+  if (hata.isEmpty() && akis.hata) hata = *akis.hata;
+  if (!hata.isEmpty()) return Hata(QStringLiteral("Bir Hata Oluştu\n") + hata, 1);
+  return 0;
+}
+
+std::optional<qint64> Numara(const QString& metin, qint64 enFazla) {
+  bool tamam = false;
+  const qint64 n = metin.trimmed().toLongLong(&tamam);
+  if (!tamam || n < 1 || n > enFazla) return std::nullopt;
+  return n;
+}
+
+int Yazdir(QStringList args) {
+  const QString kullanim = QStringLiteral(
+      "Kullanım: velmora yazdir sozlesme SOZLESMEID [--cikti DOSYA]\n"
+      "          velmora yazdir fatura SOZLESMEID [--cikti DOSYA]\n"
+      "          velmora yazdir ekfatura SERI NO [--cikti DOSYA]");
+  QString cikti;
+  if (const qsizetype i = args.indexOf(QStringLiteral("--cikti")); i >= 0) {
+    if (i + 1 >= args.size()) return Hata(kullanim, 2);
+    cikti = args[i + 1];
+    args.remove(i, 2);
+  }
+  const QString tur = args.value(0);
+  const bool ek = tur == QLatin1String("ekfatura");
+  if (!(tur == QLatin1String("sozlesme") || tur == QLatin1String("fatura") || ek) ||
+      args.size() != (ek ? 3 : 2))
+    return Hata(kullanim, 2);
+
+  // The settings and the database, as the window starts with them.
+  Genel::BinlikAyiriciBul();
+  const QString dizin = Genel::WindowsDizini();
+  if (dizin.isEmpty()) return Hata(QStringLiteral("Ayar dizini oluşturulamadı."), 2);
+  Genel::IniDosya = dizin + QStringLiteral("/velmora.ini");
+  Genel::AyarOku();
+  const QString yol = Genel::VeriTabaniYolu();
+  if (!QFile::exists(yol)) return Hata(QStringLiteral("Veri tabanı bulunamadı: %1").arg(yol), 2);
+  try {
+    Genel::Baglanti.Ac(yol);
+    db::SablonBossaYukle(Genel::Baglanti);
+    if (ek) {
+      const std::optional<qint64> no = Numara(args[2], std::numeric_limits<qint32>::max());
+      if (!no) return Hata(QStringLiteral("Geçersiz fatura numarası: %1").arg(args[2]), 2);
+      const auto satir = fatura::EkFaturaSatiri(Genel::Baglanti, args[1], *no);
+      if (const auto* r = std::get_if<baski::Red>(&satir)) return Ret(*r);
+      return Gonder(
+          fatura::FaturaAkisi(fatura::BicimSec(true, Genel::SahipAdi),
+                              std::get<baski::Kayit>(satir), fatura::YaziAyari::Genelden()),
+          cikti, Genel::PrinterFatura);
+    }
+    const std::optional<qint64> id = Numara(args[1], std::numeric_limits<qint32>::max());
+    if (!id) return Hata(QStringLiteral("Geçersiz sözleşme numarası: %1").arg(args[1]), 2);
+    if (tur == QLatin1String("fatura")) {
+      const fatura::Bicim bicim = fatura::BicimSec(false, Genel::SahipAdi);
+      const auto satir =
+          fatura::FaturaSatiri(Genel::Baglanti, qint32(*id), bicim == fatura::Bicim::FaturaSabit);
+      if (const auto* r = std::get_if<baski::Red>(&satir)) return Ret(*r);
+      return Gonder(
+          fatura::FaturaAkisi(bicim, std::get<baski::Kayit>(satir), fatura::YaziAyari::Genelden()),
+          cikti, Genel::PrinterFatura);
+    }
+    // The contract as its screen would show it once opened.
+    const sozlesmebaski::EkranDegerleri e =
+        sozlesmebaski::EkranDegerleriOku(Genel::Baglanti, qint32(*id))
+            .value_or(sozlesmebaski::EkranDegerleri{});
+    const auto hazir = sozlesmebaski::Hazirla(Genel::Baglanti, qint32(*id), e.Odenecek, e.GunYazisi,
+                                              Genel::MasrafGoster);
+    if (const auto* r = std::get_if<baski::Red>(&hazir)) return Ret(*r);
+    return Gonder(sozlesmebaski::Akis(std::get<sozlesmebaski::Baski>(hazir), Genel::SahipAdi,
+                                      sozlesmebaski::Ayar::Genelden()),
+                  cikti, Genel::PrinterSozlesme);
+  } catch (const db::Hata& h) {
+    return Hata(QStringLiteral("Bir Hata Oluştu\n") + h.metin(), 1);
+  }
+}
+
 void EkranlariKaydet() {
   master::FirmaEkraniKaydet();
   master::MusteriEkranlariKaydet();
@@ -83,6 +203,11 @@ void EkranlariKaydet() {
   reports::GelirEkraniKaydet();
   reports::MusteriDurumEkraniKaydet();
   reports::KesideciEkraniKaydet();
+  contract::SozlesmeYazdirKaydet();
+  contract::SablonEkraniKaydet();
+  invoice::FaturaEkraniKaydet();
+  invoice::FaturaEkEkraniKaydet();
+  invoice::FaturaOnizlemeKaydet();
 }
 
 }  // namespace
@@ -131,6 +256,10 @@ int main(int argc, char** argv) {
     if (args[0] == QLatin1String("maliye")) {
       QCoreApplication uyg(argc, argv);
       return Maliye(args.mid(1));
+    }
+    if (args[0] == QLatin1String("yazdir")) {
+      QCoreApplication uyg(argc, argv);
+      return Yazdir(args.mid(1));
     }
     Yaz(stderr, QStringLiteral("Bilinmeyen komut: %1\n\n").arg(args[0]) + Yardim());
     return 2;

@@ -292,6 +292,40 @@ QByteArray DosKarakter(const QString& s) {
   return r;
 }
 
+QByteArray Cp1254(const QString& s) {
+  QByteArray r;
+  r.reserve(s.size());
+  for (QChar c : s) {
+    const char16_t u = c.unicode();
+    char b = Cp1254Bayti(u);
+    // The six Turkish letters of the page, which DosKarakter never lets through.
+    switch (u) {
+      case u'Ğ':
+        b = char(0xD0);
+        break;
+      case u'İ':
+        b = char(0xDD);
+        break;
+      case u'Ş':
+        b = char(0xDE);
+        break;
+      case u'ğ':
+        b = char(0xF0);
+        break;
+      case u'ı':
+        b = char(0xFD);
+        break;
+      case u'ş':
+        b = char(0xFE);
+        break;
+      default:
+        break;
+    }
+    r += (b || u == 0) ? b : '?';
+  }
+  return r;
+}
+
 QString AramaAnahtari(const QString& a, const QString& b, const QString& c) {
   QString k = a + b + c;
   k.remove(QLatin1Char(' '));

@@ -83,6 +83,9 @@ double YuvarlaBankaci(double deger, int basamak);
 QString IkiHane(int n);
 QString SagaDoldur(const QString& s, int genislik);
 QByteArray DosKarakter(const QString& s);
+// The whole text in the Turkish Windows code page (1254), as the original wrote
+// a line that didn't pass DosKarakter; "?" for a character the page lacks.
+QByteArray Cp1254(const QString& s);
 QString AramaAnahtari(const QString& a, const QString& b, const QString& c);
 QString YaziyaCevir(double Tutar);
 QString UcHaneYazi(double Sayi);

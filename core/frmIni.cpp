@@ -86,7 +86,12 @@ frmIni::frmIni() {
     fatura->addWidget(sag[i].second, i + 1, 3);
   }
   fatura->addWidget(chkSayfaBasi, 7, 0, 1, 4);
-  fatura->addWidget(chkPulBedeli, 8, 0, 1, 4);
+  fatura->addWidget(chkPulBedeli, 8, 0, 1, 3);
+  cmdOnizleme = new QPushButton(QStringLiteral("Önizleme"));
+  cmdOnizleme->setObjectName(QStringLiteral("cmdOnizleme"));
+  cmdOnizleme->setToolTip(
+      QStringLiteral("Son faturayı bu ekrandaki değerlerle kağıda düşeceği gibi gösterir"));
+  fatura->addWidget(cmdOnizleme, 8, 3);
 
   Frame2 = new QGroupBox(QStringLiteral("Sözleşme Ayarları"));
   Frame2->setObjectName(QStringLiteral("Frame2"));
@@ -154,11 +159,13 @@ frmIni::frmIni() {
   connect(cmdKaydet, &QPushButton::clicked, this, [this] { cmdKaydet_Click(); });
   connect(cmdVazgec, &QPushButton::clicked, this, [this] { cmdVazgec_Click(); });
   connect(cmdSipTanim, &QPushButton::clicked, this, [this] { cmdSipTanim_Click(); });
+  connect(cmdOnizleme, &QPushButton::clicked, this, [this] { cmdOnizleme_Click(); });
 }
 
 void frmIni::Form_Load() {
   ekran::FormOrtala(this, 6915, 6420);
   cmdSipTanim->setEnabled(ekran::KayitliMi(QStringLiteral("frmSipYazTanim")));
+  cmdOnizleme->setEnabled(ekran::KomutVar(QStringLiteral("FaturaOnizleme")));
 }
 
 void frmIni::YaziciGoster(QComboBox* liste, QLineEdit* kutu, const QString& deger) {
@@ -273,3 +280,5 @@ void frmIni::cmdKaydet_Click() {
 void frmIni::cmdVazgec_Click() { Kapat(); }
 
 void frmIni::cmdSipTanim_Click() { ekran::Ac(QStringLiteral("frmSipYazTanim")); }
+
+void frmIni::cmdOnizleme_Click() { ekran::KomutCalistir(QStringLiteral("FaturaOnizleme")); }

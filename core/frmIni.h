@@ -22,6 +22,10 @@ class frmIni : public ekran::Form {
   void cmdKaydet_Click();
   void cmdVazgec_Click();
   void cmdSipTanim_Click();
+  // Beyond the original: the latest invoice as it lands on paper with the
+  // values typed here, saved or not (the command "FaturaOnizleme" of the
+  // invoice part, which reads this screen's boxes).
+  void cmdOnizleme_Click();
 
   QGroupBox *Frame1, *Frame2;
   QComboBox *cmbFatura, *cmbSozlesme;
@@ -31,11 +35,11 @@ class frmIni : public ekran::Form {
   QCheckBox *chkSayfaBasi, *chkPulBedeli;
   QLineEdit *txtIlave, *txtLimitAdet, *txtDetayBasBosluk;
   QCheckBox *chkHesapla, *chkHaftaSonu, *chkOrtalamaGun, *chkDetayToplam, *chkMasraf;
-  QPushButton* cmdSipTanim;
+  QPushButton *cmdSipTanim, *cmdOnizleme;
   QCheckBox *chkIslem, *chkYTL;
   QPushButton *cmdKaydet, *cmdVazgec;
 
  private:
-  void YaziciGoster(QComboBox* liste, QLineEdit* kutu, const QString& deger);
-  void YaziciSecildi(QComboBox* liste, QLineEdit* kutu);
+  void YaziciGoster(QComboBox *liste, QLineEdit *kutu, const QString &deger);
+  void YaziciSecildi(QComboBox *liste, QLineEdit *kutu);
 };

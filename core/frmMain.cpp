@@ -15,6 +15,7 @@
 #include "core/Mesaj.h"
 #include "core/frmIni.h"
 #include "db/Kayitlar.h"
+#include "db/Sema.h"
 
 // --- background
 
@@ -248,10 +249,17 @@ void frmMain::VeriTabaniAc() {
   if (Genel::VeriDizini().isEmpty()) throw db::Hata(QStringLiteral("Veri dizini oluşturulamadı"));
   const QString yol = Genel::VeriTabaniYolu();
   // The first start brings the tables and the reference data along.
-  if (QFile::exists(yol))
+  if (QFile::exists(yol)) {
     Genel::Baglanti.Ac(yol);
-  else
+    // An office without a print template gets the delivered one; a file that
+    // can't take it now still opens.
+    try {
+      db::SablonBossaYukle(Genel::Baglanti);
+    } catch (const db::Hata&) {
+    }
+  } else {
     Genel::Baglanti.Olustur(yol);
+  }
 }
 
 void frmMain::FirmaOku() {

@@ -153,6 +153,130 @@ const Durum kDurumlar[] = {
     {33, "Kamu Kuruluşu", "Diğer Kuruluş"},
 };
 
+// The delivered print template: a plain contract form on continuous paper,
+// one row for each piece of a line (Parts 4.4 and 4.7). It uses every kind
+// of row, so that an office sees how each works before it fits the template
+// to its own paper. Fixed texts go out as they stand, trimmed (TIP "T"
+// converts no letter), so they keep to the letters every code page shares;
+// blanks come from "S" rows and columns from "A" rows.
+struct SablonSatiri {
+  int sira, sutun;
+  const char* tip;
+  const char* alan;  // nullptr: Null
+  int boy;           // -1: Null
+  int ondalik;       // -1: Null
+  const char* bicim;
+};
+const SablonSatiri kSablon[] = {
+    // ESC @: the printer starts afresh; condensed print off
+    {1, 1, "C", nullptr, 27, -1, nullptr},
+    {1, 2, "T", "@", -1, -1, nullptr},
+    {1, 3, "C", nullptr, 18, -1, nullptr},
+    {2, 1, "P", nullptr, 2, -1, nullptr},
+    {3, 1, "S", nullptr, 30, -1, nullptr},
+    {3, 2, "T", "ODUNC SOZLESMESI", -1, -1, nullptr},
+    {4, 1, "S", nullptr, 30, -1, nullptr},
+    {4, 2, "T", "----------------", -1, -1, nullptr},
+    {5, 1, "P", nullptr, 1, -1, nullptr},
+    {6, 1, "T", "Sozlesme No", -1, -1, nullptr},
+    {6, 2, "A", nullptr, 14, -1, nullptr},
+    {6, 3, "T", ":", -1, -1, nullptr},
+    {6, 4, "S", nullptr, 1, -1, nullptr},
+    {6, 5, "B", "SozlesmeSeri", -1, -1, "TURKCE"},
+    {6, 6, "S", nullptr, 1, -1, nullptr},
+    {6, 7, "B", "SozlesmeNo", -1, -1, nullptr},
+    {6, 8, "A", nullptr, 50, -1, nullptr},
+    {6, 9, "T", "Tarih", -1, -1, nullptr},
+    {6, 10, "S", nullptr, 1, -1, nullptr},
+    {6, 11, "T", ":", -1, -1, nullptr},
+    {6, 12, "S", nullptr, 1, -1, nullptr},
+    {6, 13, "B", "TarihGun", -1, -1, nullptr},
+    {6, 14, "T", ".", -1, -1, nullptr},
+    {6, 15, "B", "TarihAy", -1, -1, nullptr},
+    {6, 16, "T", ".", -1, -1, nullptr},
+    {6, 17, "B", "TarihYil", -1, -1, nullptr},
+    {7, 1, "P", nullptr, 1, -1, nullptr},
+    {8, 1, "T", "Borclu", -1, -1, nullptr},
+    {8, 2, "A", nullptr, 14, -1, nullptr},
+    {8, 3, "T", ":", -1, -1, nullptr},
+    {8, 4, "S", nullptr, 1, -1, nullptr},
+    {8, 5, "B", "AdSoyad", -1, -1, "TURKCE"},
+    {9, 1, "T", "Adres", -1, -1, nullptr},
+    {9, 2, "A", nullptr, 14, -1, nullptr},
+    {9, 3, "T", ":", -1, -1, nullptr},
+    {9, 4, "S", nullptr, 1, -1, nullptr},
+    {9, 5, "B", "Adres", -1, -1, "TURKCE"},
+    {10, 1, "A", nullptr, 16, -1, nullptr},
+    {10, 2, "B", "PostaKod", -1, -1, nullptr},
+    {10, 3, "S", nullptr, 1, -1, nullptr},
+    {10, 4, "B", "Ilce", -1, -1, "TURKCE"},
+    {10, 5, "T", "/", -1, -1, nullptr},
+    {10, 6, "B", "Il_Ad", -1, -1, "TURKCE"},
+    {11, 1, "T", "Vergi Dairesi", -1, -1, nullptr},
+    {11, 2, "A", nullptr, 14, -1, nullptr},
+    {11, 3, "T", ":", -1, -1, nullptr},
+    {11, 4, "S", nullptr, 1, -1, nullptr},
+    {11, 5, "B", "VergiDairesi", -1, -1, "TURKCE"},
+    {11, 6, "S", nullptr, 3, -1, nullptr},
+    {11, 7, "T", "No", -1, -1, nullptr},
+    {11, 8, "S", nullptr, 1, -1, nullptr},
+    {11, 9, "T", ":", -1, -1, nullptr},
+    {11, 10, "S", nullptr, 1, -1, nullptr},
+    {11, 11, "B", "VergiKimlikNo", -1, -1, nullptr},
+    {12, 1, "P", nullptr, 1, -1, nullptr},
+    {13, 1, "T", "Sozlesme Tutari", -1, -1, nullptr},
+    {13, 2, "A", nullptr, 30, -1, nullptr},
+    {13, 3, "N", "Tutar", 18, 2, "NUMR"},
+    {14, 1, "T", "Faiz Tutari", -1, -1, nullptr},
+    {14, 2, "A", nullptr, 30, -1, nullptr},
+    {14, 3, "N", "FaizTutar", 18, 2, "NUMR"},
+    {15, 1, "T", "BSMV", -1, -1, nullptr},
+    {15, 2, "A", nullptr, 30, -1, nullptr},
+    {15, 3, "N", "BMVergisi", 18, 2, "NUMR"},
+    {16, 1, "T", "Odenecek Tutar", -1, -1, nullptr},
+    {16, 2, "A", nullptr, 30, -1, nullptr},
+    {16, 3, "N", "Odenecek", 18, 2, "NUMR"},
+    {17, 1, "T", "Damga Vergisi", -1, -1, nullptr},
+    {17, 2, "A", nullptr, 30, -1, nullptr},
+    {17, 3, "N", "DamgaVergi", 18, 2, "NUMR"},
+    {18, 1, "P", nullptr, 1, -1, nullptr},
+    {19, 1, "T", "Yalniz", -1, -1, nullptr},
+    {19, 2, "A", nullptr, 14, -1, nullptr},
+    {19, 3, "T", ":", -1, -1, nullptr},
+    {19, 4, "S", nullptr, 1, -1, nullptr},
+    {19, 5, "B", "Yaziyla", -1, -1, "TURKCE"},
+    {20, 1, "T", "Vade", -1, -1, nullptr},
+    {20, 2, "A", nullptr, 14, -1, nullptr},
+    {20, 3, "T", ":", -1, -1, nullptr},
+    {20, 4, "S", nullptr, 1, -1, nullptr},
+    {20, 5, "B", "Gun", -1, -1, "TURKCE"},
+    {20, 6, "S", nullptr, 1, -1, nullptr},
+    {20, 7, "T", "gun", -1, -1, nullptr},
+    {20, 8, "A", nullptr, 32, -1, nullptr},
+    {20, 9, "T", "Faiz %", -1, -1, nullptr},
+    {20, 10, "S", nullptr, 1, -1, nullptr},
+    {20, 11, "N", "FaizOran", -1, 2, nullptr},
+    {20, 12, "A", nullptr, 50, -1, nullptr},
+    {20, 13, "T", "Gecikme %", -1, -1, nullptr},
+    {20, 14, "S", nullptr, 1, -1, nullptr},
+    {20, 15, "N", "GecikmeOran", -1, 2, nullptr},
+    {20, 16, "A", nullptr, 68, -1, nullptr},
+    {20, 17, "T", "Iskonto %", -1, -1, nullptr},
+    {20, 18, "S", nullptr, 1, -1, nullptr},
+    {20, 19, "N", "IskontoOran", -1, 2, nullptr},
+    // The papers: drawer, bank, branch, account, number, due date, amount.
+    {21, 1, "D", "K30,B45,S60,H75,C90,V102", 1, 22, nullptr},
+    {22, 1, "P", nullptr, 2, -1, nullptr},
+    {23, 1, "S", nullptr, 5, -1, nullptr},
+    {23, 2, "T", "BORCLU", -1, -1, nullptr},
+    {23, 3, "A", nullptr, 55, -1, nullptr},
+    {23, 4, "T", "ALACAKLI", -1, -1, nullptr},
+    {24, 1, "P", nullptr, 3, -1, nullptr},
+    {25, 1, "Y", nullptr, -1, -1, nullptr},
+    // The row behind the form feed, so that its line goes out.
+    {26, 1, "P", nullptr, 0, -1, nullptr},
+};
+
 const char* const kDovizler[] = {"TRL", "USD", "EUR", "GBP", "CHF", "JPY",
                                  "SAR", "DKK", "SEK", "NOK", "CAD", "AUD"};
 
@@ -165,6 +289,21 @@ const QStringList& Iller() {
     return l;
   }();
   return liste;
+}
+
+bool SablonBossaYukle(Baglanti& b) {
+  if (!NullMu(b.Deger(QStringLiteral("SELECT ID FROM SozlesmeTanim LIMIT 1")))) return false;
+  Islem islem(b);
+  int id = 0;
+  const auto deger = [](const char* s) { return s ? QVariant(QString::fromUtf8(s)) : Null(); };
+  const auto sayi = [](int n) { return n < 0 ? Null() : QVariant(n); };
+  for (const SablonSatiri& r : kSablon)
+    b.Calistir(QStringLiteral("INSERT INTO SozlesmeTanim(ID, SIRA, SUTUN, TIP, ALAN, BOY, "
+                              "\"DECIMAL\", FORMAT) VALUES (?, ?, ?, ?, ?, ?, ?, ?)"),
+               {++id, r.sira, r.sutun, deger(r.tip), deger(r.alan), sayi(r.boy), sayi(r.ondalik),
+                deger(r.bicim)});
+  islem.Onayla();
+  return true;
 }
 
 void SemaOlustur(Baglanti& b) {
@@ -180,6 +319,7 @@ void SemaOlustur(Baglanti& b) {
   for (const char* kod : kDovizler)
     b.Calistir(QStringLiteral("INSERT INTO DOVIZKOD(KOD) VALUES (?)"), {QString::fromUtf8(kod)});
   b.Calistir(QStringLiteral("INSERT INTO Versiyon(Major, Minor) VALUES (2, 3)"));
+  SablonBossaYukle(b);
   // The office's row: the three columns every start reads hold empty texts, so
   // that a first start left without filling in the firm screen still opens.
   b.Calistir(

@@ -11,6 +11,10 @@ class Baglanti;
 // transaction.
 void SemaOlustur(Baglanti& b);
 
+// Puts the delivered print template into SozlesmeTanim when the table is
+// empty (a new database, or an office that never had one); true when it did.
+bool SablonBossaYukle(Baglanti& b);
+
 // The provinces in traffic-code order (code = position + 1).
 const QStringList& Iller();
 

@@ -298,7 +298,7 @@ void frmMusteri::Form_Load() {
 }
 
 void frmMusteri::Form_Activate() {
-  mnuFaturaEk->setEnabled(ekran::KayitliMi(QStringLiteral("frmFaturaEk")));
+  mnuFaturaEk->setEnabled(ekran::Hazir(QStringLiteral("frmFaturaEk")));
 }
 
 void frmMusteri::IlDoldur() {
@@ -809,8 +809,9 @@ void frmMusteri::cmdAra_Click() {
 }
 
 void frmMusteri::mnuFaturaEk_Click() {
-  if (txtMusteriNo->text().isEmpty() || !ekran::KayitliMi(QStringLiteral("frmFaturaEk"))) return;
-  ekran::Ac(QStringLiteral("frmFaturaEk"));
+  // A blocking dialogue of this screen (a registered command), or a screen.
+  if (txtMusteriNo->text().isEmpty() || !ekran::Hazir(QStringLiteral("frmFaturaEk"))) return;
+  ekran::AcVeyaCalistir(QStringLiteral("frmFaturaEk"));
 }
 
 void frmMusteri::cmdExit_Click() { Kapat(); }

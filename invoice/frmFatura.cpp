@@ -1,0 +1,323 @@
+#include "invoice/frmFatura.h"
+
+#include <QApplication>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "contract/frmSozles.h"
+#include "core/Ekran.h"
+#include "core/Genel.h"
+#include "core/Koruma.h"
+#include "core/Kutu.h"
+#include "core/Mesaj.h"
+#include "core/Yazdirma.h"
+#include "db/Kayitlar.h"
+#include "invoice/FaturaBaski.h"
+#include "invoice/FaturaHesap.h"
+#include "invoice/FaturaOrtak.h"
+
+using invoice::Dugme;
+using invoice::TutarKutusu;
+
+frmFatura::frmFatura(frmSozles* sozlesme, QWidget* ust) : QDialog(ust), sozlesme_(sozlesme) {
+  setObjectName(QStringLiteral("frmFatura"));
+  setWindowTitle(QStringLiteral("Fatura"));
+  Kur();
+}
+
+void frmFatura::Kur() {
+  txtTarih = ekran::Kutu(QStringLiteral("txtTarih"));
+  txtSozlesmeNo = ekran::Kutu(QStringLiteral("txtSozlesmeNo"));
+  for (QLineEdit* k : {txtTarih, txtSozlesmeNo}) {
+    ekran::SaltOkunur(k, true);
+    k->setMaximumWidth(110);
+  }
+  txtFaturaSeri = ekran::Kutu(QStringLiteral("txtFaturaSeri"), 2);
+  txtFaturaSeri->setMaximumWidth(40);
+  txtFaturaNo = ekran::Kutu(QStringLiteral("txtFaturaNo"));
+  txtFaturaNo->setMaximumWidth(110);
+  lblMusteri = new QLabel;
+  lblMusteri->setObjectName(QStringLiteral("lblMusteri"));
+  lblAdres = new QLabel;
+  lblAdres->setObjectName(QStringLiteral("lblAdres"));
+  lblVergi = new QLabel;
+  lblVergi->setObjectName(QStringLiteral("lblVergi"));
+  txtTutar = TutarKutusu(QStringLiteral("txtTutar"), true);
+  txtBMOran = ekran::Kutu(QStringLiteral("txtBMOran"), 0, false);
+  txtBMOran->setMaximumWidth(60);
+  invoice::IlkUcunuSec(txtBMOran);
+  txtBMVergisi = TutarKutusu(QStringLiteral("txtBMVergisi"), true);
+  txtMasraf = TutarKutusu(QStringLiteral("txtMasraf"), false);
+  txtPul = TutarKutusu(QStringLiteral("txtPul"), false);
+  txtToplamOdeme = TutarKutusu(QStringLiteral("txtToplamOdeme"), true);
+  txtSozlesmeTutar = TutarKutusu(QStringLiteral("txtSozlesmeTutar"), true);
+  txtGenelToplam = TutarKutusu(QStringLiteral("txtGenelToplam"), true);
+  lblYazi = new QLabel;
+  lblYazi->setObjectName(QStringLiteral("lblYazi"));
+  lblYazi->setWordWrap(true);
+  txtMusteriNo = new QLineEdit(this);
+  txtMusteriNo->setObjectName(QStringLiteral("txtMusteriNo"));
+  txtMusteriNo->hide();
+  txtSozlesmeSeri = new QLineEdit(this);
+  txtSozlesmeSeri->setObjectName(QStringLiteral("txtSozlesmeSeri"));
+  txtSozlesmeSeri->hide();
+
+  cmdFatNo = Dugme("cmdFatNo", QStringLiteral("Fatura No Bul"));
+  cmdSave = Dugme("cmdSave", QStringLiteral("Kaydet"));
+  cmdsil = Dugme("cmdsil", QStringLiteral("Sil"));
+  cmdYazdir = Dugme("cmdYazdir", QStringLiteral("Yazdır"));
+  cmdExit = Dugme("cmdExit", QStringLiteral("Çıkış"));
+
+  // --- layout
+  auto* ust = new QGridLayout;
+  ust->addWidget(new QLabel(QStringLiteral("Tarih: ")), 0, 0);
+  ust->addWidget(txtTarih, 0, 1);
+  ust->addWidget(new QLabel(QStringLiteral("Sözleşme No:")), 0, 2);
+  ust->addWidget(txtSozlesmeNo, 0, 3);
+  ust->addWidget(new QLabel(QStringLiteral("Fatura No:")), 1, 0);
+  auto* no = new QHBoxLayout;
+  no->addWidget(txtFaturaSeri);
+  no->addWidget(txtFaturaNo);
+  no->addWidget(cmdFatNo);
+  no->addStretch();
+  ust->addLayout(no, 1, 1, 1, 3);
+  ust->addWidget(new QLabel(QStringLiteral("Sayın:")), 2, 0, Qt::AlignTop);
+  auto* musteri = new QVBoxLayout;
+  for (QLabel* l : {lblMusteri, lblAdres, lblVergi}) musteri->addWidget(l);
+  ust->addLayout(musteri, 2, 1, 1, 3);
+  ust->setColumnStretch(3, 1);
+
+  auto* rakam = new QGridLayout;
+  invoice::Satir(rakam, QStringLiteral("Tutar:"), txtTutar);
+  const int oran = rakam->rowCount();
+  rakam->addWidget(new QLabel(QStringLiteral("B.M. Vergi Oranı:")), oran, 0);
+  auto* vergi = new QHBoxLayout;
+  vergi->addWidget(txtBMOran);
+  vergi->addWidget(txtBMVergisi, 1);
+  rakam->addLayout(vergi, oran, 1);
+  invoice::Satir(rakam, QStringLiteral("Tahsil Masrafı:"), txtMasraf);
+  lblPul = invoice::Satir(rakam, QStringLiteral("Pul Bedeli:"), txtPul);
+  invoice::Satir(rakam, QStringLiteral("Toplam Müşteri Ödemesi:"), txtToplamOdeme);
+  invoice::Satir(rakam, QStringLiteral("Sözleşme Toplamı:"), txtSozlesmeTutar);
+  invoice::Satir(rakam, QStringLiteral("Genel Toplam:"), txtGenelToplam);
+  auto* yazi = new QHBoxLayout;
+  yazi->addWidget(new QLabel(QStringLiteral("Yalnız")));
+  yazi->addWidget(lblYazi, 1);
+
+  auto* komutlar = new QHBoxLayout;
+  for (QPushButton* d : {cmdSave, cmdsil, cmdYazdir}) komutlar->addWidget(d);
+  komutlar->addStretch();
+  komutlar->addWidget(cmdExit);
+
+  auto* duzen = new QVBoxLayout(this);
+  duzen->addLayout(ust);
+  duzen->addLayout(rakam);
+  duzen->addLayout(yazi);
+  duzen->addLayout(komutlar);
+
+  // --- behaviour
+  invoice::ParaAlani(txtMasraf);
+  invoice::ParaAlani(txtPul);
+  ekran::AyrilirkenKontrol(txtFaturaSeri, [this] { return txtFaturaSeri_Validate(); });
+  ekran::KontrolTetiklemez(cmdExit);
+  for (QLineEdit* k : {txtBMOran, txtMasraf, txtPul})
+    connect(k, &QLineEdit::textChanged, this, [this] { Hesapla(); });
+  const auto bagla = [this](QPushButton* d, auto f) {
+    connect(d, &QPushButton::clicked, this,
+            [this, f] { ekran::Korumali([this, f] { (this->*f)(); }); });
+  };
+  bagla(cmdFatNo, &frmFatura::cmdFatNo_Click);
+  bagla(cmdSave, &frmFatura::cmdSave_Click);
+  bagla(cmdsil, &frmFatura::cmdsil_Click);
+  bagla(cmdYazdir, &frmFatura::cmdYazdir_Click);
+  bagla(cmdExit, &frmFatura::cmdExit_Click);
+}
+
+// --- opening
+
+void frmFatura::Form_Load() {
+  yuklendi_ = false;
+  // Steps 1 to 4: the contract from the contract screen.
+  txtSozlesmeTutar->setText(sozlesme_->txtTutar->text());
+  txtSozlesmeNo->setText(sozlesme_->txtSozlesmeNo->text());
+  txtTarih->setText(sozlesme_->txtTarih->text());
+  txtMusteriNo->setText(sozlesme_->txtMusteriNo->text());
+  txtSozlesmeSeri->setText(sozlesme_->txtOldSeriNo->text());
+  SozlesmeID = sozlesme_->SozlesmeID;
+  txtTutar->setText(sozlesme_->txtFaizTutar->text());
+
+  // Step 5: the customer.
+  bool sayi = false;
+  const qint64 musteri = txtMusteriNo->text().trimmed().toLongLong(&sayi);
+  if (sayi) {
+    const db::Kayitlar rs = Genel::Baglanti.Sorgu(
+        QStringLiteral("SELECT * FROM Musteri WHERE MusteriNo = ?"), {musteri});
+    if (rs.SatirVar()) {
+      const auto m = [&rs](const char* ad) { return rs.Metin(QString::fromLatin1(ad)); };
+      lblMusteri->setText(m("Soyadi") + QLatin1Char(' ') + m("Adi") + QLatin1Char(' ') +
+                          m("Babaadi"));
+      lblAdres->setText(m("Adres") + QStringLiteral("  ") + m("Ilce") + QLatin1Char('/') +
+                        m("Il_AD"));
+      lblVergi->setText(m("VergiDairesi") + QLatin1Char('-') + m("VergiKimlikNo"));
+    }
+  }
+
+  // Steps 1, 3 and 6: the defaults, or what the saved invoice says.
+  std::optional<baski::Kayit> kayitli;
+  const db::Kayitlar fatura = Genel::Baglanti.Sorgu(
+      QStringLiteral("SELECT * FROM Fatura WHERE SozlesmeID = ?"), {SozlesmeID});
+  if (fatura.SatirVar()) kayitli = baski::Kayit::Oku(fatura);
+  const fatura::Acilis a = fatura::AcilisDegerleri(txtSozlesmeTutar->text(), Genel::PulBedeli,
+                                                   Genel::FaturaSeri, kayitli);
+  txtPul->setText(a.Pul);
+  txtPul->setVisible(a.PulGorunur);
+  lblPul->setVisible(a.PulGorunur);
+  txtBMOran->setText(a.BMOran);
+  txtFaturaSeri->setText(a.FaturaSeri);
+  FaturaVar = a.FaturaVar;
+  cmdYazdir->setEnabled(FaturaVar);
+  if (FaturaVar) {
+    txtFaturaNo->setText(a.FaturaNo);
+    txtMasraf->setText(a.Masraf);
+  }
+
+  // Steps 7 and 8.
+  yuklendi_ = true;
+  Hesapla();
+  if (Genel::SadeceGoster)
+    for (QPushButton* d : {cmdSave, cmdsil, cmdYazdir}) d->setEnabled(false);
+}
+
+// --- figures
+
+void frmFatura::Hesapla() {
+  if (!yuklendi_ || hesapliyor_) return;
+  hesapliyor_ = true;
+  const fatura::Sonuc s =
+      fatura::Hesapla({txtTutar->text(), txtBMOran->text(), txtMasraf->text(), txtPul->text()});
+  if (s.MasrafDoldur) txtMasraf->setText(QString::fromUtf16(fatura::kBosMasraf));
+  txtBMVergisi->setText(s.BMVergisi);
+  txtToplamOdeme->setText(s.ToplamOdeme);
+  txtGenelToplam->setText(s.GenelToplam);
+  lblYazi->setText(s.Yazi);
+  hesapliyor_ = false;
+}
+
+void frmFatura::FatNoBul() {
+  const std::optional<qint64> no =
+      fatura::SonrakiNo(Genel::Baglanti, Genel::FaturaSeri, QDate::currentDate());
+  if (!no) {
+    mesaj::Kritik(QString::fromUtf16(fatura::kNoYok), QString::fromUtf16(fatura::kNoYokBaslik));
+    txtFaturaNo->setFocus();
+    return;
+  }
+  txtFaturaSeri->setText(Genel::FaturaSeri);
+  txtFaturaNo->setText(QString::number(*no));
+}
+
+bool frmFatura::txtFaturaSeri_Validate() {
+  if (txtFaturaSeri->text().trimmed().isEmpty()) txtFaturaSeri->setText(Genel::FaturaSeri);
+  return true;
+}
+
+// --- commands
+
+bool frmFatura::cmdSave_Click() {
+  if (txtFaturaNo->text().isEmpty()) {
+    mesaj::Kritik(QString::fromUtf16(fatura::kNoGir), QStringLiteral("Hata"));
+    txtFaturaNo->setFocus();
+    return false;
+  }
+  fatura::Satir s;
+  s.FaturaSeri = txtFaturaSeri->text();
+  s.FaturaNo = txtFaturaNo->text();
+  s.Tarih = txtTarih->text();
+  s.MusteriNo = txtMusteriNo->text();
+  s.SozlesmeSeri = txtSozlesmeSeri->text();
+  s.SozlesmeNo = txtSozlesmeNo->text();
+  s.Tutar = txtTutar->text();
+  s.BMOran = txtBMOran->text();
+  s.BMVergisi = txtBMVergisi->text();
+  s.Masraf = txtMasraf->text();
+  s.ToplamOdeme = txtToplamOdeme->text();
+  s.Pul = txtPul->text();
+  s.GenelToplam = txtGenelToplam->text();
+  s.Yaziyla = fatura::YaziylaMetni(lblYazi->text(), false);
+  s.SozlesmeID = SozlesmeID;
+  QString neden;
+  try {
+    fatura::Kaydet(Genel::Baglanti, s, FaturaVar);
+  } catch (const fatura::Red& r) {
+    neden = r.neden;
+  } catch (const db::Hata& h) {
+    neden = h.metin();
+  }
+  if (!neden.isNull()) {
+    mesaj::Kritik(QString::fromUtf16(fatura::kKayitHatasi) + neden,
+                  QString::fromUtf16(fatura::kCiftNumara));
+    return false;
+  }
+  cmdYazdir->setEnabled(true);
+  FaturaVar = true;
+  return true;
+}
+
+void frmFatura::cmdsil_Click() {
+  if (!mesaj::EvetMi(txtSozlesmeNo->text() +
+                         QStringLiteral(" Numaralı Sözleşme için Kesilen Fatura Silinecektir."),
+                     QStringLiteral("ONAY")))
+    return;
+  fatura::Sil(Genel::Baglanti, SozlesmeID);
+  mesaj::Goster(QStringLiteral("Silindi"), QStringLiteral("Fatura Sil"));
+  txtFaturaNo->clear();
+}
+
+void frmFatura::cmdExit_Click() { close(); }
+
+void frmFatura::cmdYazdir_Click() {
+  FaturaYazdir(fatura::BicimSec(false, Genel::SahipAdi) == fatura::Bicim::FaturaSabit);
+}
+
+void frmFatura::FaturaYazdir(bool sabit) {
+  cmdSave_Click();
+  const auto satir = fatura::FaturaSatiri(Genel::Baglanti, SozlesmeID, sabit);
+  if (const auto* red = std::get_if<baski::Red>(&satir)) {
+    ekran::RedGoster(*red);
+    return;
+  }
+  if (mesaj::Goster(QString::fromUtf16(fatura::kYaziciSorusu),
+                    QString::fromUtf16(fatura::kYaziciBaslik), mesaj::Tur::Soru,
+                    mesaj::Dugmeler::TamamIptal, this) != mesaj::Dugme::Tamam)
+    return;
+  const baski::Sonuc akis =
+      fatura::FaturaAkisi(sabit ? fatura::Bicim::FaturaSabit : fatura::Bicim::Fatura,
+                          std::get<baski::Kayit>(satir), fatura::YaziAyari::Genelden());
+  ekran::Yazdir(Genel::PrinterFatura, akis);
+}
+
+namespace invoice {
+
+namespace {
+
+// The contract screen the clerk is in: the one that holds the focus (its
+// cmdFatura), else the open one.
+frmSozles* SozlesmeEkrani() {
+  for (QWidget* w = QApplication::focusWidget(); w; w = w->parentWidget())
+    if (auto* s = qobject_cast<frmSozles*>(w)) return s;
+  return qobject_cast<frmSozles*>(ekran::Acik(QStringLiteral("frmSozles")));
+}
+
+}  // namespace
+
+void FaturaEkraniKaydet() {
+  ekran::KomutKaydet(QStringLiteral("frmFatura"), [] {
+    frmSozles* s = SozlesmeEkrani();
+    if (!s) return;
+    frmFatura f(s, s->window());
+    f.Form_Load();
+    f.exec();
+  });
+}
+
+}  // namespace invoice

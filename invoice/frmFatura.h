@@ -1,0 +1,64 @@
+#pragma once
+// The contract invoice (Part 6.1): the interest of the contract on show in the
+// contract screen becomes one row of Fatura, with BSMV tax, a collection fee
+// and stamp duty on top; numbered, saved, deleted and printed (Part 6.2).
+//
+// A blocking dialogue of frmSozles: it reads the contract from that screen's
+// fields when it opens and holds nothing else of it. The figures are those
+// of invoice/FaturaHesap.h, the stream that of invoice/FaturaBaski.h.
+//
+//   frmFatura f(sozlesmeEkrani);
+//   f.Form_Load();  // may throw db::Hata
+//   f.exec();
+
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+class frmSozles;
+
+class frmFatura : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmFatura(frmSozles *sozlesme, QWidget *ust = nullptr);
+
+  QLineEdit *txtTarih, *txtSozlesmeNo, *txtFaturaSeri, *txtFaturaNo;
+  QLabel *lblMusteri, *lblAdres, *lblVergi;
+  QLineEdit *txtTutar, *txtBMOran, *txtBMVergisi, *txtMasraf, *txtPul, *txtToplamOdeme,
+      *txtSozlesmeTutar, *txtGenelToplam;
+  QLabel *lblPul, *lblYazi;
+  QLineEdit *txtMusteriNo, *txtSozlesmeSeri;  // hidden, carried for the save
+  QPushButton *cmdFatNo, *cmdSave, *cmdsil, *cmdYazdir, *cmdExit;
+
+  qint32 SozlesmeID = 0;
+  bool FaturaVar = false;
+
+  // The opening steps 1 to 8.
+  void Form_Load();
+  void Hesapla();
+  void FatNoBul();
+  // True when the row was written.
+  bool cmdSave_Click();
+  void cmdsil_Click();
+  void cmdYazdir_Click();
+  void cmdExit_Click();
+  void cmdFatNo_Click() { FatNoBul(); }
+  bool txtFaturaSeri_Validate();
+
+  // FaturaYazdir and FaturaYazdirSabit (Part 6.2); cmdYazdir chooses.
+  void FaturaYazdir(bool sabit);
+
+ private:
+  void Kur();
+  frmSozles *sozlesme_;
+  bool yuklendi_ = false;    // Hesapla runs on changes once the opening is done
+  bool hesapliyor_ = false;  // Hesapla writing its own boxes
+};
+
+namespace invoice {
+// Registers the command "frmFatura" that the contract screen's cmdFatura
+// runs: the dialogue for the contract screen the clerk is in.
+void FaturaEkraniKaydet();
+}  // namespace invoice

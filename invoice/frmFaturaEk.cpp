@@ -1,0 +1,285 @@
+#include "invoice/frmFaturaEk.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "core/Ekran.h"
+#include "core/Genel.h"
+#include "core/Koruma.h"
+#include "core/Kutu.h"
+#include "core/Mesaj.h"
+#include "core/Yazdirma.h"
+#include "db/Kayitlar.h"
+#include "invoice/FaturaBaski.h"
+#include "invoice/FaturaHesap.h"
+#include "invoice/FaturaOrtak.h"
+#include "master/frmMusteri.h"
+
+using invoice::Dugme;
+using invoice::TutarKutusu;
+
+frmFaturaEk::frmFaturaEk(frmMusteri* musteri, QWidget* ust) : QDialog(ust), musteri_(musteri) {
+  setObjectName(QStringLiteral("frmFaturaEk"));
+  setWindowTitle(QStringLiteral("Ek Fatura"));
+  Kur();
+}
+
+void frmFaturaEk::Kur() {
+  txtTarih = ekran::Kutu(QStringLiteral("txtTarih"), 0, false);
+  txtTarih->setMaximumWidth(110);
+  ekran::TarihKutusu(txtTarih);
+  txtFaturaSeri = ekran::Kutu(QStringLiteral("txtFaturaSeri"), 2);
+  txtFaturaSeri->setMaximumWidth(40);
+  txtFaturaNo = ekran::Kutu(QStringLiteral("txtFaturaNo"));
+  txtFaturaNo->setMaximumWidth(110);
+  txtAciklama = ekran::Kutu(QStringLiteral("txtAciklama"));
+  lblMusteri = new QLabel;
+  lblMusteri->setObjectName(QStringLiteral("lblMusteri"));
+  lblAdres = new QLabel;
+  lblAdres->setObjectName(QStringLiteral("lblAdres"));
+  lblVergi = new QLabel;
+  lblVergi->setObjectName(QStringLiteral("lblVergi"));
+  txtTutar = TutarKutusu(QStringLiteral("txtTutar"), false);
+  txtBMOran = ekran::Kutu(QStringLiteral("txtBMOran"), 0, false);
+  txtBMOran->setMaximumWidth(60);
+  invoice::IlkUcunuSec(txtBMOran);
+  txtBMVergisi = TutarKutusu(QStringLiteral("txtBMVergisi"), true);
+  txtMasraf = TutarKutusu(QStringLiteral("txtMasraf"), false);
+  txtPul = TutarKutusu(QStringLiteral("txtPul"), false);
+  txtToplamOdeme = TutarKutusu(QStringLiteral("txtToplamOdeme"), true);
+  txtGenelToplam = TutarKutusu(QStringLiteral("txtGenelToplam"), true);
+  lblYazi = new QLabel;
+  lblYazi->setObjectName(QStringLiteral("lblYazi"));
+  lblYazi->setWordWrap(true);
+  txtMusteriNo = new QLineEdit(this);
+  txtMusteriNo->setObjectName(QStringLiteral("txtMusteriNo"));
+  txtMusteriNo->hide();
+
+  cmdFatNo = Dugme("cmdFatNo", QStringLiteral("Fatura No Bul"));
+  cmdSave = Dugme("cmdSave", QStringLiteral("Kaydet"));
+  cmdYazdir = Dugme("cmdYazdir", QStringLiteral("Yazdır"));
+  cmdExit = Dugme("cmdExit", QStringLiteral("Çıkış"));
+
+  // --- layout
+  auto* ust = new QGridLayout;
+  ust->addWidget(new QLabel(QStringLiteral("Tarih: ")), 0, 0);
+  ust->addWidget(txtTarih, 0, 1);
+  ust->addWidget(new QLabel(QStringLiteral("Fatura No:")), 1, 0);
+  auto* no = new QHBoxLayout;
+  no->addWidget(txtFaturaSeri);
+  no->addWidget(txtFaturaNo);
+  no->addWidget(cmdFatNo);
+  no->addStretch();
+  ust->addLayout(no, 1, 1);
+  ust->addWidget(new QLabel(QStringLiteral("Sayın:")), 2, 0, Qt::AlignTop);
+  auto* musteri = new QVBoxLayout;
+  for (QLabel* l : {lblMusteri, lblAdres, lblVergi}) musteri->addWidget(l);
+  ust->addLayout(musteri, 2, 1);
+  ust->addWidget(new QLabel(QStringLiteral("Açıklama")), 3, 0);
+  ust->addWidget(txtAciklama, 3, 1);
+  ust->setColumnStretch(1, 1);
+
+  auto* rakam = new QGridLayout;
+  invoice::Satir(rakam, QStringLiteral("Tutar:"), txtTutar);
+  const int oran = rakam->rowCount();
+  rakam->addWidget(new QLabel(QStringLiteral("B.M. Vergi Oranı:")), oran, 0);
+  auto* vergi = new QHBoxLayout;
+  vergi->addWidget(txtBMOran);
+  vergi->addWidget(txtBMVergisi, 1);
+  rakam->addLayout(vergi, oran, 1);
+  invoice::Satir(rakam, QStringLiteral("Tahsil Masrafı:"), txtMasraf);
+  lblPul = invoice::Satir(rakam, QStringLiteral("Pul Masrafı:"), txtPul);
+  invoice::Satir(rakam, QStringLiteral("Toplam Müşteri Ödemesi:"), txtToplamOdeme);
+  invoice::Satir(rakam, QStringLiteral("Genel Toplam:"), txtGenelToplam);
+  auto* yazi = new QHBoxLayout;
+  yazi->addWidget(new QLabel(QStringLiteral("Yalnız")));
+  yazi->addWidget(lblYazi, 1);
+
+  auto* komutlar = new QHBoxLayout;
+  for (QPushButton* d : {cmdSave, cmdYazdir}) komutlar->addWidget(d);
+  komutlar->addStretch();
+  komutlar->addWidget(cmdExit);
+
+  auto* duzen = new QVBoxLayout(this);
+  duzen->addLayout(ust);
+  duzen->addLayout(rakam);
+  duzen->addLayout(yazi);
+  duzen->addLayout(komutlar);
+
+  // --- behaviour: Hesapla on every change of the percent and the fee, and
+  // when the percent or the amount is left; the stamp duty counts at the
+  // next run.
+  invoice::ParaAlani(txtMasraf);
+  ekran::AyrilirkenKontrol(txtTutar, [this] {
+    double deger = 0;
+    if (Genel::SayiOkuDene(txtTutar->text().trimmed(), deger))
+      txtTutar->setText(Genel::SayiYaz(deger, 2));
+    Hesapla();
+    return true;
+  });
+  ekran::AyrilirkenKontrol(txtBMOran, [this] {
+    Hesapla();
+    return true;
+  });
+  ekran::AyrilirkenKontrol(txtFaturaSeri, [this] { return txtFaturaSeri_Validate(); });
+  ekran::KontrolTetiklemez(cmdExit);
+  for (QLineEdit* k : {txtBMOran, txtMasraf})
+    connect(k, &QLineEdit::textChanged, this, [this] { Hesapla(); });
+  const auto bagla = [this](QPushButton* d, auto f) {
+    connect(d, &QPushButton::clicked, this,
+            [this, f] { ekran::Korumali([this, f] { (this->*f)(); }); });
+  };
+  bagla(cmdFatNo, &frmFaturaEk::cmdFatNo_Click);
+  bagla(cmdSave, &frmFaturaEk::cmdSave_Click);
+  bagla(cmdYazdir, &frmFaturaEk::cmdYazdir_Click);
+  bagla(cmdExit, &frmFaturaEk::cmdExit_Click);
+}
+
+void frmFaturaEk::Form_Load() {
+  yuklendi_ = false;
+  txtPul->setText(fatura::SayiBicimi(0));
+  txtPul->setVisible(Genel::PulBedeli);
+  lblPul->setVisible(Genel::PulBedeli);
+  txtBMOran->setText(QString::fromUtf16(fatura::kVarsayilanOran));
+  txtFaturaSeri->setText(Genel::FaturaSeri);
+  txtMusteriNo->setText(musteri_->cmbNo->currentText());
+  cmdYazdir->setEnabled(false);
+
+  bool sayi = false;
+  const qint64 no = txtMusteriNo->text().trimmed().toLongLong(&sayi);
+  if (sayi) {
+    const db::Kayitlar rs =
+        Genel::Baglanti.Sorgu(QStringLiteral("SELECT * FROM Musteri WHERE MusteriNo = ?"), {no});
+    if (rs.SatirVar()) {
+      const auto m = [&rs](const char* ad) { return rs.Metin(QString::fromLatin1(ad)); };
+      lblMusteri->setText(m("Soyadi") + QLatin1Char(' ') + m("Adi") + QLatin1Char(' ') +
+                          m("Babaadi"));
+      lblAdres->setText(m("Adres") + QStringLiteral("  ") + m("Ilce") + QLatin1Char('/') +
+                        m("Il_AD"));
+      lblVergi->setText(m("VergiDairesi") + QLatin1Char('-') + m("VergiKimlikNo"));
+    }
+  }
+  yuklendi_ = true;
+}
+
+void frmFaturaEk::Hesapla() {
+  if (!yuklendi_ || hesapliyor_) return;
+  hesapliyor_ = true;
+  const fatura::Sonuc s =
+      fatura::Hesapla({txtTutar->text(), txtBMOran->text(), txtMasraf->text(), txtPul->text()});
+  if (s.MasrafDoldur) txtMasraf->setText(QString::fromUtf16(fatura::kBosMasraf));
+  txtBMVergisi->setText(s.BMVergisi);
+  txtToplamOdeme->setText(s.ToplamOdeme);
+  txtGenelToplam->setText(s.GenelToplam);
+  lblYazi->setText(s.Yazi);
+  hesapliyor_ = false;
+}
+
+void frmFaturaEk::FatNoBul() {
+  const std::optional<qint64> no = fatura::EkSonrakiNo(Genel::Baglanti, Genel::FaturaSeri);
+  if (!no) {
+    mesaj::Kritik(QString::fromUtf16(fatura::kNoYok), QString::fromUtf16(fatura::kNoYokBaslik));
+    txtFaturaNo->setFocus();
+    return;
+  }
+  txtFaturaSeri->setText(Genel::FaturaSeri);
+  txtFaturaNo->setText(QString::number(*no));
+}
+
+bool frmFaturaEk::txtFaturaSeri_Validate() {
+  if (txtFaturaSeri->text().trimmed().isEmpty()) txtFaturaSeri->setText(Genel::FaturaSeri);
+  return true;
+}
+
+bool frmFaturaEk::cmdSave_Click() {
+  if (txtFaturaNo->text().isEmpty()) {
+    mesaj::Kritik(QString::fromUtf16(fatura::kNoGir), QStringLiteral("Hata"));
+    txtFaturaNo->setFocus();
+    return false;
+  }
+  fatura::Satir s;
+  s.FaturaSeri = txtFaturaSeri->text();
+  s.FaturaNo = txtFaturaNo->text();
+  s.Tarih = txtTarih->text();
+  s.MusteriNo = txtMusteriNo->text();
+  s.Aciklama = txtAciklama->text();
+  s.Tutar = txtTutar->text();
+  s.BMOran = txtBMOran->text();
+  s.BMVergisi = txtBMVergisi->text();
+  s.Masraf = txtMasraf->text();
+  s.ToplamOdeme = txtToplamOdeme->text();
+  s.Pul = txtPul->text();
+  s.GenelToplam = txtGenelToplam->text();
+  s.Yaziyla = fatura::YaziylaMetni(lblYazi->text(), true);
+  // Any failure but the refusal of a contract's number has one message,
+  // without the engine's text.
+  const QString baslik = QString::fromUtf16(fatura::kCiftNumara);
+  bool yazildi = false;
+  try {
+    yazildi = fatura::EkKaydet(Genel::Baglanti, s);
+    if (!yazildi) {
+      mesaj::Kritik(QString::fromUtf16(fatura::kSozlesmeFaturasi), baslik);
+      return false;
+    }
+  } catch (const fatura::Red&) {
+  } catch (const db::Hata&) {
+  }
+  if (!yazildi) {
+    mesaj::Kritik(QStringLiteral("Kayıt Eklenemedi! Lütfen Bilgileri Kontol Edin!"), baslik);
+    return false;
+  }
+  cmdYazdir->setEnabled(true);
+  return true;
+}
+
+void frmFaturaEk::cmdExit_Click() { close(); }
+
+void frmFaturaEk::cmdYazdir_Click() {
+  FaturaEkYazdir(fatura::BicimSec(true, Genel::SahipAdi) == fatura::Bicim::EkSabit);
+}
+
+void frmFaturaEk::FaturaEkYazdir(bool sabit) {
+  cmdSave_Click();
+  bool sayi = false;
+  const qint64 no = txtFaturaNo->text().trimmed().toLongLong(&sayi);
+  const auto satir = fatura::EkFaturaSatiri(Genel::Baglanti, txtFaturaSeri->text(), sayi ? no : 0);
+  if (const auto* red = std::get_if<baski::Red>(&satir)) {
+    ekran::RedGoster(*red);
+    return;
+  }
+  if (mesaj::Goster(QString::fromUtf16(fatura::kYaziciSorusu),
+                    QString::fromUtf16(fatura::kYaziciBaslik), mesaj::Tur::Soru,
+                    mesaj::Dugmeler::TamamIptal, this) != mesaj::Dugme::Tamam)
+    return;
+  const baski::Sonuc akis =
+      fatura::FaturaAkisi(sabit ? fatura::Bicim::EkSabit : fatura::Bicim::Ek,
+                          std::get<baski::Kayit>(satir), fatura::YaziAyari::Genelden());
+  ekran::Yazdir(Genel::PrinterFatura, akis);
+}
+
+namespace invoice {
+
+namespace {
+
+frmMusteri* MusteriEkrani() {
+  for (QWidget* w = QApplication::focusWidget(); w; w = w->parentWidget())
+    if (auto* m = qobject_cast<frmMusteri*>(w)) return m;
+  return qobject_cast<frmMusteri*>(ekran::Acik(QStringLiteral("frmMusteri")));
+}
+
+}  // namespace
+
+void FaturaEkEkraniKaydet() {
+  ekran::KomutKaydet(QStringLiteral("frmFaturaEk"), [] {
+    frmMusteri* m = MusteriEkrani();
+    if (!m) return;
+    frmFaturaEk f(m, m->window());
+    f.Form_Load();
+    f.exec();
+  });
+}
+
+}  // namespace invoice

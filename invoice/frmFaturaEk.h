@@ -1,0 +1,53 @@
+#pragma once
+// The invoice without a contract (Part 6.3), "Ek Fatura": a free text and an
+// amount for the customer on show in the customer screen, with the figures
+// of the contract invoice and its print layout. It always starts empty; a
+// saved additional invoice can't be called up again.
+//
+// A blocking dialogue of frmMusteri, opened only while a customer is on show.
+
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+class frmMusteri;
+
+class frmFaturaEk : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmFaturaEk(frmMusteri *musteri, QWidget *ust = nullptr);
+
+  QLineEdit *txtTarih, *txtFaturaSeri, *txtFaturaNo, *txtAciklama;
+  QLabel *lblMusteri, *lblAdres, *lblVergi;
+  QLineEdit *txtTutar, *txtBMOran, *txtBMVergisi, *txtMasraf, *txtPul, *txtToplamOdeme,
+      *txtGenelToplam;
+  QLabel *lblPul, *lblYazi;
+  QLineEdit *txtMusteriNo;  // hidden, carried for the save
+  QPushButton *cmdFatNo, *cmdSave, *cmdYazdir, *cmdExit;
+
+  void Form_Load();
+  void Hesapla();
+  void FatNoBul();
+  bool cmdSave_Click();
+  void cmdYazdir_Click();
+  void cmdExit_Click();
+  void cmdFatNo_Click() { FatNoBul(); }
+  bool txtFaturaSeri_Validate();
+
+  // FaturaEkYazdir and FaturaEkYazdirSabit; cmdYazdir chooses.
+  void FaturaEkYazdir(bool sabit);
+
+ private:
+  void Kur();
+  frmMusteri *musteri_;
+  bool yuklendi_ = false;
+  bool hesapliyor_ = false;
+};
+
+namespace invoice {
+// Registers the command "frmFaturaEk" that the customer screen's menu entry
+// runs: the dialogue for the customer screen the clerk is in.
+void FaturaEkEkraniKaydet();
+}  // namespace invoice
