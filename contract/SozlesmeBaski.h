@@ -1,5 +1,5 @@
 #pragma once
-// The contract's byte stream (Part 4.4), without widgets: the template
+// The contract's byte stream, without widgets: the template
 // interpreter SozlesmeYazdir, the fixed layout SozlesmeYazdirSabit, and the
 // common steps before either prints.
 

@@ -1,5 +1,5 @@
 #pragma once
-// The contract screen's print (Part 4.4): the common steps, the printer
+// The contract screen's print: the common steps, the printer
 // question, and the stream of the template or of the fixed layout to the
 // printer of Sozlesme/Printer.
 

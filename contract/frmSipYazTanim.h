@@ -1,5 +1,5 @@
 #pragma once
-// The print field template (Part 4.7), "Sipariş Yazıcı Tanımlama Ekranı":
+// The print field template, "Sipariş Yazıcı Tanımlama Ekranı":
 // the rows of SozlesmeTanim that say where each value of a contract stands
 // on the office's paper, listed, added, changed and deleted. Which fields are
 // on show follows the kind of row; what is not on show is not saved.

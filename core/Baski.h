@@ -1,5 +1,5 @@
 #pragma once
-// What the print streams share (Parts 4.4, 6.2, 6.3): the bytes for a
+// What the print streams share: the bytes for a
 // dot-matrix printer built line by line, the pieces a line is made of, the
 // failure that ends a stream, the refusals that stop a print before it
 // starts, and a row of fields by name.
@@ -33,7 +33,7 @@ inline constexpr char kNormal = 18;    // condensed printing off
 inline constexpr char kSayfa = 12;     // form feed
 inline constexpr int kBekleme = 2000;  // ms the printer is left alone (Bekle 2)
 
-// The failure of Part 6.2 inside a stream: a pad to a column that the line
+// The failure of a stream: a pad to a column that the line
 // has already passed, an amount wider than its width, a negative count of
 // blanks. Thrown by the pieces below, caught where the stream is built; what
 // was written up to there is what the printer gets. `neden` follows

@@ -154,7 +154,7 @@ const Durum kDurumlar[] = {
 };
 
 // The delivered print template: a plain contract form on continuous paper,
-// one row for each piece of a line (Parts 4.4 and 4.7). It uses every kind
+// one row for each piece of a line. It uses every kind
 // of row, so that an office sees how each works before it fits the template
 // to its own paper. Fixed texts go out as they stand, trimmed (TIP "T"
 // converts no letter), so they keep to the letters every code page shares;

@@ -1,5 +1,5 @@
 #pragma once
-// The invoice's byte streams (Parts 6.2 and 6.3), without widgets:
+// The invoice's byte streams, without widgets:
 // FaturaYazdir, FaturaYazdirSabit, FaturaEkYazdir and FaturaEkYazdirSabit
 // as one computation from the invoice's row and the settings, and the steps
 // that read that row and refuse a print before it starts.
@@ -23,7 +23,7 @@ enum class Bicim { Fatura, FaturaSabit, Ek, EkSabit };
 inline constexpr char16_t kSabitSahip[] = u"Sefa Dalkan";
 Bicim BicimSec(bool ek, const QString& SahipAdi);
 
-// The keys of section Fatura of the settings file (Part 1.2) that shape the
+// The keys of section Fatura of the settings file that shape the
 // stream; the defaults are those of AyarOku.
 struct YaziAyari {
   int BasBosluk = 11, SonBosluk = 10, IsimBas = 24, TarihAtla = 4, VergiAtla = 5, TarihBas = 59,

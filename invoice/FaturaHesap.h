@@ -1,5 +1,5 @@
 #pragma once
-// The figures of an invoice, without widgets (Parts 6.1 and 6.3): the values
+// The figures of an invoice, without widgets: the values
 // a screen opens with, the stamp duty, Hesapla, the number proposal, and the
 // row a save writes, with the save and the delete themselves.
 //
@@ -33,7 +33,7 @@ inline constexpr char16_t kCiftNumara[] = u"Çift Fatura Numarası";
 inline constexpr char16_t kSozlesmeFaturasi[] =
     u"Bu numara bir sözleşmenin faturasıdır, değiştirilemez.";
 
-// The number format of Part 6.1: two decimals, a leading zero, thousands
+// The number format of an invoice: two decimals, a leading zero, thousands
 // grouped, a minus sign; halves away from zero.
 QString SayiBicimi(double deger);
 
@@ -45,7 +45,7 @@ double Oku(const QString& metin);
 // Step 3 of the opening: the stamp duty of a contract total.
 QString PulBedeli(const QString& sozlesmeTutar);
 
-// --- opening (Part 6.1, steps 1, 3 and 6)
+// --- opening (steps 1, 3 and 6)
 
 struct Acilis {
   QString Pul;         // txtPul

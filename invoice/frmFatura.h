@@ -1,7 +1,7 @@
 #pragma once
-// The contract invoice (Part 6.1): the interest of the contract on show in the
+// The contract invoice: the interest of the contract on show in the
 // contract screen becomes one row of Fatura, with BSMV tax, a collection fee
-// and stamp duty on top; numbered, saved, deleted and printed (Part 6.2).
+// and stamp duty on top; numbered, saved, deleted and printed.
 //
 // A blocking dialogue of frmSozles: it reads the contract from that screen's
 // fields when it opens and holds nothing else of it. The figures are those
@@ -47,7 +47,7 @@ class frmFatura : public QDialog {
   void cmdFatNo_Click() { FatNoBul(); }
   bool txtFaturaSeri_Validate();
 
-  // FaturaYazdir and FaturaYazdirSabit (Part 6.2); cmdYazdir chooses.
+  // FaturaYazdir and FaturaYazdirSabit; cmdYazdir chooses.
   void FaturaYazdir(bool sabit);
 
  private:

@@ -1,5 +1,5 @@
 #pragma once
-// The invoice without a contract (Part 6.3), "Ek Fatura": a free text and an
+// The invoice without a contract, "Ek Fatura": a free text and an
 // amount for the customer on show in the customer screen, with the figures
 // of the contract invoice and its print layout. It always starts empty; a
 // saved additional invoice can't be called up again.

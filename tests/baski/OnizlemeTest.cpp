@@ -51,7 +51,7 @@ TEST_F(Onizleme, HarflerKagittakiYerinde) {
 }
 
 TEST_F(Onizleme, FaturaKagitta) {
-  // The invoice of Part 6.2 with every default: 66 lines on one form, the
+  // The invoice with every default: 66 lines on one form, the
   // amount on line 28 ending in column 76 (TutarBas 58 and 18 columns), the
   // words condensed.
   baski::Kayit r;

@@ -62,7 +62,7 @@ TEST_F(FaturaHesap, HesaplaTablosu) {
     bool doldur;
   };
   const Vaka vakalar[] = {
-      // The worked example of Part 6.1: the fee box empty, stamp duty of the
+      // The worked example of the invoice: the fee box empty, stamp duty of the
       // contract total 1.000.000,00.
       {{"40.000,00", "5", "", "7.500,00"},
        "2.000,00",
