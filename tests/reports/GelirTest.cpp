@@ -20,6 +20,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using test::Tikla;
+using test::Yaz;
+
 class Gelir : public test::Ortam {
  protected:
   void SetUp() override {
@@ -59,19 +62,6 @@ class Gelir : public test::Ortam {
     return ekran_.get();
   }
   std::unique_ptr<frmRapor> ekran_;
-  static void Tikla(QWidget* w) {
-    QTest::mouseClick(w, Qt::LeftButton);
-    test::Isle();
-  }
-  static void Yaz(QLineEdit* kutu, const QString& metin) {
-    kutu->setFocus();
-    test::Isle();
-    QTest::keyClick(kutu, Qt::Key_A, Qt::ControlModifier);
-    if (metin.isEmpty())
-      QTest::keyClick(kutu, Qt::Key_Delete);
-    else
-      test::Tusla(kutu, metin);
-  }
   // Numbers of the listed contracts, and the figures under the list.
   static QString Gorulen(frmRapor* f) {
     QStringList l;

@@ -13,6 +13,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using test::Tikla;
+using test::Yaz;
+
 class Kesideci : public test::Ortam {
  protected:
   void SetUp() override {
@@ -55,19 +58,6 @@ class Kesideci : public test::Ortam {
     return ekran_.get();
   }
   std::unique_ptr<frmKesideciBilgi> ekran_;
-  static void Tikla(QWidget* w) {
-    QTest::mouseClick(w, Qt::LeftButton);
-    test::Isle();
-  }
-  static void Yaz(QLineEdit* kutu, const QString& metin) {
-    kutu->setFocus();
-    test::Isle();
-    QTest::keyClick(kutu, Qt::Key_A, Qt::ControlModifier);
-    if (metin.isEmpty())
-      QTest::keyClick(kutu, Qt::Key_Delete);
-    else
-      test::Tusla(kutu, metin);
-  }
   static QString Liste(frmKesideciBilgi* f) {
     QStringList l;
     for (int i = 0; i < f->lstKesideci->count(); ++i) l << f->lstKesideci->item(i)->text();

@@ -16,6 +16,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using test::Tikla;
+using test::Yaz;
+
 class MusteriBilgi : public test::Ortam {
  protected:
   void SetUp() override {
@@ -56,19 +59,6 @@ class MusteriBilgi : public test::Ortam {
   }
   std::unique_ptr<frmMusteriBilgi> ekran_;
 
-  static void Tikla(QWidget* w) {
-    QTest::mouseClick(w, Qt::LeftButton);
-    test::Isle();
-  }
-  static void Yaz(QLineEdit* kutu, const QString& metin) {
-    kutu->setFocus();
-    test::Isle();
-    QTest::keyClick(kutu, Qt::Key_A, Qt::ControlModifier);
-    if (metin.isEmpty())
-      QTest::keyClick(kutu, Qt::Key_Delete);
-    else
-      test::Tusla(kutu, metin);
-  }
   // The view as the clerk reads it: title, drawers in order, count, total, averages.
   static QString Gorulen(frmMusteriBilgi* f) {
     if (!f->dGridDetay->isVisible()) return "gizli";

@@ -32,4 +32,22 @@ inline void ListeyeYaz(QComboBox* liste, const QString& metin, Qt::Key tus = Qt:
   QApplication::processEvents();
 }
 
+// A click, and the events it sets off.
+inline void Tikla(QWidget* w) {
+  QTest::mouseClick(w, Qt::LeftButton);
+  QApplication::processEvents();
+}
+
+// Into a box as a clerk retypes it: the focus goes there, what stands is
+// selected and typed over (or deleted, for an empty text).
+inline void Yaz(QLineEdit* kutu, const QString& metin) {
+  kutu->setFocus();
+  QApplication::processEvents();
+  QTest::keyClick(kutu, Qt::Key_A, Qt::ControlModifier);
+  if (metin.isEmpty())
+    QTest::keyClick(kutu, Qt::Key_Delete);
+  else
+    Tusla(kutu, metin);
+}
+
 }  // namespace test
