@@ -17,6 +17,7 @@
 #include "core/Genel.h"
 #include "core/Uygulama.h"
 #include "core/Yazici.h"
+#include "core/YukseltKomut.h"
 #include "core/frmMain.h"
 #include "db/Sema.h"
 #include "invoice/FaturaBaski.h"
@@ -208,6 +209,7 @@ void EkranlariKaydet() {
   invoice::FaturaEkraniKaydet();
   invoice::FaturaEkEkraniKaydet();
   invoice::FaturaOnizlemeKaydet();
+  ekran::YukseltmeKomutlariniKaydet();
 }
 
 }  // namespace

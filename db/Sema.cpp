@@ -54,17 +54,6 @@ CREATE TABLE Kur (Tarih TEXT, Doviz TEXT, Kur REAL, CaprazKur REAL);
 -- day and currency twice, and the rate screen updates them together.
 CREATE INDEX Kur_TarihDoviz ON Kur(Tarih, Doviz);
 
-CREATE TABLE Hesap (
-  SozlesmeSeri TEXT, SozlesmeNo INTEGER, Tarih TEXT, MusteriNo INTEGER, Tutar REAL,
-  Yaziyla TEXT, FaizOran REAL, GecikmeOran REAL, IskontoOran REAL, FaizTutar REAL, Gun TEXT,
-  ilaveGun INTEGER, SozlesmeID INTEGER PRIMARY KEY, Doviz TEXT, Masraf REAL);
-
-CREATE TABLE HesapDetay (
-  GirisNo INTEGER PRIMARY KEY AUTOINCREMENT, SozlesmeNo INTEGER, Tip TEXT, Kesideci TEXT,
-  Banka TEXT, Sube TEXT, HesapNo TEXT, CekNo TEXT, Vadesi TEXT, Gun INTEGER, Meblag REAL,
-  Doviz TEXT DEFAULT 'TRL', Karsilik TEXT DEFAULT 'Var', Odenmesi TEXT, SozlesmeSeri TEXT,
-  SozlesmeID INTEGER);
-
 CREATE TABLE HukukiDurum (DurumKod INTEGER PRIMARY KEY, Durum TEXT, Kategori TEXT);
 CREATE TABLE Il_Trafik_Kodu (IlKod INTEGER PRIMARY KEY, Il TEXT);
 -- No key, so that a plain read gives the codes in the order they stand, TRL first.
@@ -76,6 +65,24 @@ CREATE TABLE SozlesmeTanim (
 
 CREATE TABLE Versiyon (Major INTEGER, Minor INTEGER);
 
+)SQL";
+
+// The worksheet's scratch tables; an older database gets them from the upgrade.
+const char* const kHesapTablolari = R"SQL(
+CREATE TABLE Hesap (
+  SozlesmeSeri TEXT, SozlesmeNo INTEGER, Tarih TEXT, MusteriNo INTEGER, Tutar REAL,
+  Yaziyla TEXT, FaizOran REAL, GecikmeOran REAL, IskontoOran REAL, FaizTutar REAL, Gun TEXT,
+  ilaveGun INTEGER, SozlesmeID INTEGER PRIMARY KEY, Doviz TEXT, Masraf REAL);
+
+CREATE TABLE HesapDetay (
+  GirisNo INTEGER PRIMARY KEY AUTOINCREMENT, SozlesmeNo INTEGER, Tip TEXT, Kesideci TEXT,
+  Banka TEXT, Sube TEXT, HesapNo TEXT, CekNo TEXT, Vadesi TEXT, Gun INTEGER, Meblag REAL,
+  Doviz TEXT DEFAULT 'TRL', Karsilik TEXT DEFAULT 'Var', Odenmesi TEXT, SozlesmeSeri TEXT,
+  SozlesmeID INTEGER);
+)SQL";
+
+// The views, also laid anew by the upgrade.
+const char* const kGorunumler = R"SQL(
 CREATE VIEW MusteriQry AS
 SELECT Musteri.MusteriNo, Musteri.Soyadi, Musteri.Adi,
        CASE WHEN Musteri.HukukiDurum = 1
@@ -306,9 +313,21 @@ bool SablonBossaYukle(Baglanti& b) {
   return true;
 }
 
+void HesapTablolariOlustur(Baglanti& b) { b.Calistir(QString::fromUtf8(kHesapTablolari)); }
+
+void GorunumleriKur(Baglanti& b) {
+  Islem islem(b);
+  for (const char* ad : {"MusteriQry", "CekDurum", "SozlesmePrint"})
+    b.Calistir(QStringLiteral("DROP VIEW IF EXISTS %1").arg(QLatin1String(ad)));
+  b.Calistir(QString::fromUtf8(kGorunumler));
+  islem.Onayla();
+}
+
 void SemaOlustur(Baglanti& b) {
   Islem islem(b);
   b.Calistir(QString::fromUtf8(kTablolar));
+  HesapTablolariOlustur(b);
+  GorunumleriKur(b);
   for (int i = 0; i < Iller().size(); ++i)
     b.Calistir(QStringLiteral("INSERT INTO Il_Trafik_Kodu(IlKod, Il) VALUES (?, ?)"),
                {i + 1, Iller()[i]});

@@ -11,6 +11,12 @@ class Baglanti;
 // transaction.
 void SemaOlustur(Baglanti& b);
 
+// Creates the worksheet's tables Hesap and HesapDetay; throws when one exists.
+void HesapTablolariOlustur(Baglanti& b);
+
+// Lays the three views anew (dropping those that stand), in one transaction.
+void GorunumleriKur(Baglanti& b);
+
 // Puts the delivered print template into SozlesmeTanim when the table is
 // empty (a new database, or an office that never had one); true when it did.
 bool SablonBossaYukle(Baglanti& b);
