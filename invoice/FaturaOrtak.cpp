@@ -7,6 +7,7 @@
 #include "core/Ekran.h"
 #include "core/Genel.h"
 #include "core/Kutu.h"
+#include "db/Kayitlar.h"
 
 namespace invoice {
 
@@ -64,6 +65,105 @@ QLabel* Satir(QGridLayout* g, const QString& baslik, QWidget* alan, int sutun) {
   g->addWidget(l, satir, sutun);
   g->addWidget(alan, satir, sutun + 1);
   return l;
+}
+
+FaturaEkrani::FaturaEkrani(const char* ad, const QString& baslik, bool tutarKilitli, QWidget* ust)
+    : QDialog(ust) {
+  setObjectName(QString::fromLatin1(ad));
+  setWindowTitle(baslik);
+  txtFaturaSeri = ekran::Kutu(QStringLiteral("txtFaturaSeri"), 2);
+  txtFaturaSeri->setMaximumWidth(40);
+  txtFaturaNo = ekran::Kutu(QStringLiteral("txtFaturaNo"));
+  txtFaturaNo->setMaximumWidth(110);
+  const auto etiket = [](const char* ad) {
+    auto* l = new QLabel;
+    l->setObjectName(QString::fromLatin1(ad));
+    return l;
+  };
+  lblMusteri = etiket("lblMusteri");
+  lblAdres = etiket("lblAdres");
+  lblVergi = etiket("lblVergi");
+  txtTutar = TutarKutusu(QStringLiteral("txtTutar"), tutarKilitli);
+  txtBMOran = ekran::Kutu(QStringLiteral("txtBMOran"), 0, false);
+  txtBMOran->setMaximumWidth(60);
+  IlkUcunuSec(txtBMOran);
+  txtBMVergisi = TutarKutusu(QStringLiteral("txtBMVergisi"), true);
+  txtMasraf = TutarKutusu(QStringLiteral("txtMasraf"), false);
+  txtPul = TutarKutusu(QStringLiteral("txtPul"), false);
+  txtToplamOdeme = TutarKutusu(QStringLiteral("txtToplamOdeme"), true);
+  txtGenelToplam = TutarKutusu(QStringLiteral("txtGenelToplam"), true);
+  lblYazi = etiket("lblYazi");
+  lblYazi->setWordWrap(true);
+  txtMusteriNo = new QLineEdit(this);
+  txtMusteriNo->setObjectName(QStringLiteral("txtMusteriNo"));
+  txtMusteriNo->hide();
+  cmdFatNo = Dugme("cmdFatNo", QStringLiteral("Fatura No Bul"));
+  cmdSave = Dugme("cmdSave", QStringLiteral("Kaydet"));
+  cmdYazdir = Dugme("cmdYazdir", QStringLiteral("Yazdır"));
+  cmdExit = Dugme("cmdExit", QStringLiteral("Çıkış"));
+  ParaAlani(txtMasraf);
+  ekran::KontrolTetiklemez(cmdExit);
+}
+
+QHBoxLayout* FaturaEkrani::NoSatiri() {
+  auto* no = new QHBoxLayout;
+  no->addWidget(txtFaturaSeri);
+  no->addWidget(txtFaturaNo);
+  no->addWidget(cmdFatNo);
+  no->addStretch();
+  return no;
+}
+
+QVBoxLayout* FaturaEkrani::MusteriSatirlari() {
+  auto* musteri = new QVBoxLayout;
+  for (QLabel* l : {lblMusteri, lblAdres, lblVergi}) musteri->addWidget(l);
+  return musteri;
+}
+
+QGridLayout* FaturaEkrani::Rakamlar(const QString& pulBasligi, QLineEdit* sozlesmeToplami) {
+  auto* rakam = new QGridLayout;
+  Satir(rakam, QStringLiteral("Tutar:"), txtTutar);
+  const int oran = rakam->rowCount();
+  rakam->addWidget(new QLabel(QStringLiteral("B.M. Vergi Oranı:")), oran, 0);
+  auto* vergi = new QHBoxLayout;
+  vergi->addWidget(txtBMOran);
+  vergi->addWidget(txtBMVergisi, 1);
+  rakam->addLayout(vergi, oran, 1);
+  Satir(rakam, QStringLiteral("Tahsil Masrafı:"), txtMasraf);
+  lblPul = Satir(rakam, pulBasligi, txtPul);
+  Satir(rakam, QStringLiteral("Toplam Müşteri Ödemesi:"), txtToplamOdeme);
+  if (sozlesmeToplami) Satir(rakam, QStringLiteral("Sözleşme Toplamı:"), sozlesmeToplami);
+  Satir(rakam, QStringLiteral("Genel Toplam:"), txtGenelToplam);
+  return rakam;
+}
+
+void FaturaEkrani::Yerlestir(QLayout* ust, QGridLayout* rakam,
+                             std::initializer_list<QPushButton*> komutlar) {
+  auto* yazi = new QHBoxLayout;
+  yazi->addWidget(new QLabel(QStringLiteral("Yalnız")));
+  yazi->addWidget(lblYazi, 1);
+  auto* dugmeler = new QHBoxLayout;
+  for (QPushButton* d : komutlar) dugmeler->addWidget(d);
+  dugmeler->addStretch();
+  dugmeler->addWidget(cmdExit);
+  auto* duzen = new QVBoxLayout(this);
+  duzen->addLayout(ust);
+  duzen->addLayout(rakam);
+  duzen->addLayout(yazi);
+  duzen->addLayout(dugmeler);
+}
+
+void FaturaEkrani::MusteriGoster() {
+  bool sayi = false;
+  const qint64 no = txtMusteriNo->text().trimmed().toLongLong(&sayi);
+  if (!sayi) return;
+  const db::Kayitlar rs =
+      Genel::Baglanti.Sorgu(QStringLiteral("SELECT * FROM Musteri WHERE MusteriNo = ?"), {no});
+  if (!rs.SatirVar()) return;
+  const auto m = [&rs](const char* ad) { return rs.Metin(QString::fromLatin1(ad)); };
+  lblMusteri->setText(m("Soyadi") + QLatin1Char(' ') + m("Adi") + QLatin1Char(' ') + m("Babaadi"));
+  lblAdres->setText(m("Adres") + QStringLiteral("  ") + m("Ilce") + QLatin1Char('/') + m("Il_AD"));
+  lblVergi->setText(m("VergiDairesi") + QLatin1Char('-') + m("VergiKimlikNo"));
 }
 
 }  // namespace invoice

@@ -1,13 +1,17 @@
 #pragma once
-// What the two invoice screens share in their boxes: the amount boxes, the
-// percent box that selects its first three characters, the boxes rewritten
-// as money when left, and the labelled rows of the dialogue.
+// What the two invoice screens share: the boxes of the number, the addressee,
+// the figures and the amount in words, built and laid out alike; the amount
+// boxes, the percent box that selects its first three characters, the boxes
+// rewritten as money when left, and the labelled rows of the dialogue.
 
+#include <QBoxLayout>
+#include <QDialog>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QString>
+#include <initializer_list>
 
 namespace invoice {
 
@@ -26,5 +30,37 @@ QPushButton* Dugme(const char* ad, const QString& yazi);
 
 // A caption and its box in the next row of the grid.
 QLabel* Satir(QGridLayout* g, const QString& baslik, QWidget* alan, int sutun = 0);
+
+// The dialogue both invoices are: the boxes they share are made here, each
+// screen adds its own and lays them out with the pieces below.
+class FaturaEkrani : public QDialog {
+  Q_OBJECT
+
+ public:
+  QLineEdit *txtFaturaSeri, *txtFaturaNo;
+  QLabel *lblMusteri, *lblAdres, *lblVergi;
+  QLineEdit *txtTutar, *txtBMOran, *txtBMVergisi, *txtMasraf, *txtPul, *txtToplamOdeme,
+      *txtGenelToplam;
+  QLabel *lblPul, *lblYazi;
+  QLineEdit* txtMusteriNo;  // hidden, carried for the save
+  QPushButton *cmdFatNo, *cmdSave, *cmdYazdir, *cmdExit;
+
+ protected:
+  // `tutarKilitli`: the amount comes from elsewhere and can't be typed.
+  FaturaEkrani(const char* ad, const QString& baslik, bool tutarKilitli, QWidget* ust);
+
+  // Series, number and "Fatura No Bul".
+  QHBoxLayout* NoSatiri();
+  // The customer's name, address and tax office one under the other.
+  QVBoxLayout* MusteriSatirlari();
+  // The figures; `sozlesmeToplami` stands between the customer's payment and
+  // the grand total when given.
+  QGridLayout* Rakamlar(const QString& pulBasligi, QLineEdit* sozlesmeToplami = nullptr);
+  // The top part, the figures, "Yalnız" and the words, the commands with
+  // "Çıkış" on the right.
+  void Yerlestir(QLayout* ust, QGridLayout* rakam, std::initializer_list<QPushButton*> komutlar);
+  // Fills the three addressee labels from the customer's row, when there is one.
+  void MusteriGoster();
+};
 
 }  // namespace invoice

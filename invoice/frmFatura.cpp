@@ -20,9 +20,8 @@
 using invoice::Dugme;
 using invoice::TutarKutusu;
 
-frmFatura::frmFatura(frmSozles* sozlesme, QWidget* ust) : QDialog(ust), sozlesme_(sozlesme) {
-  setObjectName(QStringLiteral("frmFatura"));
-  setWindowTitle(QStringLiteral("Fatura"));
+frmFatura::frmFatura(frmSozles* sozlesme, QWidget* ust)
+    : FaturaEkrani("frmFatura", QStringLiteral("Fatura"), true, ust), sozlesme_(sozlesme) {
   Kur();
 }
 
@@ -33,41 +32,11 @@ void frmFatura::Kur() {
     ekran::SaltOkunur(k, true);
     k->setMaximumWidth(110);
   }
-  txtFaturaSeri = ekran::Kutu(QStringLiteral("txtFaturaSeri"), 2);
-  txtFaturaSeri->setMaximumWidth(40);
-  txtFaturaNo = ekran::Kutu(QStringLiteral("txtFaturaNo"));
-  txtFaturaNo->setMaximumWidth(110);
-  lblMusteri = new QLabel;
-  lblMusteri->setObjectName(QStringLiteral("lblMusteri"));
-  lblAdres = new QLabel;
-  lblAdres->setObjectName(QStringLiteral("lblAdres"));
-  lblVergi = new QLabel;
-  lblVergi->setObjectName(QStringLiteral("lblVergi"));
-  txtTutar = TutarKutusu(QStringLiteral("txtTutar"), true);
-  txtBMOran = ekran::Kutu(QStringLiteral("txtBMOran"), 0, false);
-  txtBMOran->setMaximumWidth(60);
-  invoice::IlkUcunuSec(txtBMOran);
-  txtBMVergisi = TutarKutusu(QStringLiteral("txtBMVergisi"), true);
-  txtMasraf = TutarKutusu(QStringLiteral("txtMasraf"), false);
-  txtPul = TutarKutusu(QStringLiteral("txtPul"), false);
-  txtToplamOdeme = TutarKutusu(QStringLiteral("txtToplamOdeme"), true);
   txtSozlesmeTutar = TutarKutusu(QStringLiteral("txtSozlesmeTutar"), true);
-  txtGenelToplam = TutarKutusu(QStringLiteral("txtGenelToplam"), true);
-  lblYazi = new QLabel;
-  lblYazi->setObjectName(QStringLiteral("lblYazi"));
-  lblYazi->setWordWrap(true);
-  txtMusteriNo = new QLineEdit(this);
-  txtMusteriNo->setObjectName(QStringLiteral("txtMusteriNo"));
-  txtMusteriNo->hide();
   txtSozlesmeSeri = new QLineEdit(this);
   txtSozlesmeSeri->setObjectName(QStringLiteral("txtSozlesmeSeri"));
   txtSozlesmeSeri->hide();
-
-  cmdFatNo = Dugme("cmdFatNo", QStringLiteral("Fatura No Bul"));
-  cmdSave = Dugme("cmdSave", QStringLiteral("Kaydet"));
   cmdsil = Dugme("cmdsil", QStringLiteral("Sil"));
-  cmdYazdir = Dugme("cmdYazdir", QStringLiteral("Yazdır"));
-  cmdExit = Dugme("cmdExit", QStringLiteral("Çıkış"));
 
   // --- layout
   auto* ust = new QGridLayout;
@@ -76,51 +45,16 @@ void frmFatura::Kur() {
   ust->addWidget(new QLabel(QStringLiteral("Sözleşme No:")), 0, 2);
   ust->addWidget(txtSozlesmeNo, 0, 3);
   ust->addWidget(new QLabel(QStringLiteral("Fatura No:")), 1, 0);
-  auto* no = new QHBoxLayout;
-  no->addWidget(txtFaturaSeri);
-  no->addWidget(txtFaturaNo);
-  no->addWidget(cmdFatNo);
-  no->addStretch();
-  ust->addLayout(no, 1, 1, 1, 3);
+  ust->addLayout(NoSatiri(), 1, 1, 1, 3);
   ust->addWidget(new QLabel(QStringLiteral("Sayın:")), 2, 0, Qt::AlignTop);
-  auto* musteri = new QVBoxLayout;
-  for (QLabel* l : {lblMusteri, lblAdres, lblVergi}) musteri->addWidget(l);
-  ust->addLayout(musteri, 2, 1, 1, 3);
+  ust->addLayout(MusteriSatirlari(), 2, 1, 1, 3);
   ust->setColumnStretch(3, 1);
-
-  auto* rakam = new QGridLayout;
-  invoice::Satir(rakam, QStringLiteral("Tutar:"), txtTutar);
-  const int oran = rakam->rowCount();
-  rakam->addWidget(new QLabel(QStringLiteral("B.M. Vergi Oranı:")), oran, 0);
-  auto* vergi = new QHBoxLayout;
-  vergi->addWidget(txtBMOran);
-  vergi->addWidget(txtBMVergisi, 1);
-  rakam->addLayout(vergi, oran, 1);
-  invoice::Satir(rakam, QStringLiteral("Tahsil Masrafı:"), txtMasraf);
-  lblPul = invoice::Satir(rakam, QStringLiteral("Pul Bedeli:"), txtPul);
-  invoice::Satir(rakam, QStringLiteral("Toplam Müşteri Ödemesi:"), txtToplamOdeme);
-  invoice::Satir(rakam, QStringLiteral("Sözleşme Toplamı:"), txtSozlesmeTutar);
-  invoice::Satir(rakam, QStringLiteral("Genel Toplam:"), txtGenelToplam);
-  auto* yazi = new QHBoxLayout;
-  yazi->addWidget(new QLabel(QStringLiteral("Yalnız")));
-  yazi->addWidget(lblYazi, 1);
-
-  auto* komutlar = new QHBoxLayout;
-  for (QPushButton* d : {cmdSave, cmdsil, cmdYazdir}) komutlar->addWidget(d);
-  komutlar->addStretch();
-  komutlar->addWidget(cmdExit);
-
-  auto* duzen = new QVBoxLayout(this);
-  duzen->addLayout(ust);
-  duzen->addLayout(rakam);
-  duzen->addLayout(yazi);
-  duzen->addLayout(komutlar);
+  Yerlestir(ust, Rakamlar(QStringLiteral("Pul Bedeli:"), txtSozlesmeTutar),
+            {cmdSave, cmdsil, cmdYazdir});
 
   // --- behaviour
-  invoice::ParaAlani(txtMasraf);
   invoice::ParaAlani(txtPul);
   ekran::AyrilirkenKontrol(txtFaturaSeri, [this] { return txtFaturaSeri_Validate(); });
-  ekran::KontrolTetiklemez(cmdExit);
   for (QLineEdit* k : {txtBMOran, txtMasraf, txtPul})
     connect(k, &QLineEdit::textChanged, this, [this] { Hesapla(); });
   const auto bagla = [this](QPushButton* d, auto f) {
@@ -148,20 +82,7 @@ void frmFatura::Form_Load() {
   txtTutar->setText(sozlesme_->txtFaizTutar->text());
 
   // Step 5: the customer.
-  bool sayi = false;
-  const qint64 musteri = txtMusteriNo->text().trimmed().toLongLong(&sayi);
-  if (sayi) {
-    const db::Kayitlar rs = Genel::Baglanti.Sorgu(
-        QStringLiteral("SELECT * FROM Musteri WHERE MusteriNo = ?"), {musteri});
-    if (rs.SatirVar()) {
-      const auto m = [&rs](const char* ad) { return rs.Metin(QString::fromLatin1(ad)); };
-      lblMusteri->setText(m("Soyadi") + QLatin1Char(' ') + m("Adi") + QLatin1Char(' ') +
-                          m("Babaadi"));
-      lblAdres->setText(m("Adres") + QStringLiteral("  ") + m("Ilce") + QLatin1Char('/') +
-                        m("Il_AD"));
-      lblVergi->setText(m("VergiDairesi") + QLatin1Char('-') + m("VergiKimlikNo"));
-    }
-  }
+  MusteriGoster();
 
   // Steps 1, 3 and 6: the defaults, or what the saved invoice says.
   std::optional<baski::Kayit> kayitli;

@@ -11,26 +11,19 @@
 //   f.Form_Load();  // may throw db::Hata
 //   f.exec();
 
-#include <QDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
+#include "invoice/FaturaOrtak.h"
 
 class frmSozles;
 
-class frmFatura : public QDialog {
+class frmFatura : public invoice::FaturaEkrani {
   Q_OBJECT
 
  public:
   explicit frmFatura(frmSozles *sozlesme, QWidget *ust = nullptr);
 
-  QLineEdit *txtTarih, *txtSozlesmeNo, *txtFaturaSeri, *txtFaturaNo;
-  QLabel *lblMusteri, *lblAdres, *lblVergi;
-  QLineEdit *txtTutar, *txtBMOran, *txtBMVergisi, *txtMasraf, *txtPul, *txtToplamOdeme,
-      *txtSozlesmeTutar, *txtGenelToplam;
-  QLabel *lblPul, *lblYazi;
-  QLineEdit *txtMusteriNo, *txtSozlesmeSeri;  // hidden, carried for the save
-  QPushButton *cmdFatNo, *cmdSave, *cmdsil, *cmdYazdir, *cmdExit;
+  QLineEdit *txtTarih, *txtSozlesmeNo, *txtSozlesmeTutar;
+  QLineEdit *txtSozlesmeSeri;  // hidden, carried for the save
+  QPushButton *cmdsil;
 
   qint32 SozlesmeID = 0;
   bool FaturaVar = false;

@@ -21,9 +21,8 @@
 using invoice::Dugme;
 using invoice::TutarKutusu;
 
-frmFaturaEk::frmFaturaEk(frmMusteri* musteri, QWidget* ust) : QDialog(ust), musteri_(musteri) {
-  setObjectName(QStringLiteral("frmFaturaEk"));
-  setWindowTitle(QStringLiteral("Ek Fatura"));
+frmFaturaEk::frmFaturaEk(frmMusteri* musteri, QWidget* ust)
+    : FaturaEkrani("frmFaturaEk", QStringLiteral("Ek Fatura"), false, ust), musteri_(musteri) {
   Kur();
 }
 
@@ -31,88 +30,24 @@ void frmFaturaEk::Kur() {
   txtTarih = ekran::Kutu(QStringLiteral("txtTarih"), 0, false);
   txtTarih->setMaximumWidth(110);
   ekran::TarihKutusu(txtTarih);
-  txtFaturaSeri = ekran::Kutu(QStringLiteral("txtFaturaSeri"), 2);
-  txtFaturaSeri->setMaximumWidth(40);
-  txtFaturaNo = ekran::Kutu(QStringLiteral("txtFaturaNo"));
-  txtFaturaNo->setMaximumWidth(110);
   txtAciklama = ekran::Kutu(QStringLiteral("txtAciklama"));
-  lblMusteri = new QLabel;
-  lblMusteri->setObjectName(QStringLiteral("lblMusteri"));
-  lblAdres = new QLabel;
-  lblAdres->setObjectName(QStringLiteral("lblAdres"));
-  lblVergi = new QLabel;
-  lblVergi->setObjectName(QStringLiteral("lblVergi"));
-  txtTutar = TutarKutusu(QStringLiteral("txtTutar"), false);
-  txtBMOran = ekran::Kutu(QStringLiteral("txtBMOran"), 0, false);
-  txtBMOran->setMaximumWidth(60);
-  invoice::IlkUcunuSec(txtBMOran);
-  txtBMVergisi = TutarKutusu(QStringLiteral("txtBMVergisi"), true);
-  txtMasraf = TutarKutusu(QStringLiteral("txtMasraf"), false);
-  txtPul = TutarKutusu(QStringLiteral("txtPul"), false);
-  txtToplamOdeme = TutarKutusu(QStringLiteral("txtToplamOdeme"), true);
-  txtGenelToplam = TutarKutusu(QStringLiteral("txtGenelToplam"), true);
-  lblYazi = new QLabel;
-  lblYazi->setObjectName(QStringLiteral("lblYazi"));
-  lblYazi->setWordWrap(true);
-  txtMusteriNo = new QLineEdit(this);
-  txtMusteriNo->setObjectName(QStringLiteral("txtMusteriNo"));
-  txtMusteriNo->hide();
-
-  cmdFatNo = Dugme("cmdFatNo", QStringLiteral("Fatura No Bul"));
-  cmdSave = Dugme("cmdSave", QStringLiteral("Kaydet"));
-  cmdYazdir = Dugme("cmdYazdir", QStringLiteral("Yazdır"));
-  cmdExit = Dugme("cmdExit", QStringLiteral("Çıkış"));
 
   // --- layout
   auto* ust = new QGridLayout;
   ust->addWidget(new QLabel(QStringLiteral("Tarih: ")), 0, 0);
   ust->addWidget(txtTarih, 0, 1);
   ust->addWidget(new QLabel(QStringLiteral("Fatura No:")), 1, 0);
-  auto* no = new QHBoxLayout;
-  no->addWidget(txtFaturaSeri);
-  no->addWidget(txtFaturaNo);
-  no->addWidget(cmdFatNo);
-  no->addStretch();
-  ust->addLayout(no, 1, 1);
+  ust->addLayout(NoSatiri(), 1, 1);
   ust->addWidget(new QLabel(QStringLiteral("Sayın:")), 2, 0, Qt::AlignTop);
-  auto* musteri = new QVBoxLayout;
-  for (QLabel* l : {lblMusteri, lblAdres, lblVergi}) musteri->addWidget(l);
-  ust->addLayout(musteri, 2, 1);
+  ust->addLayout(MusteriSatirlari(), 2, 1);
   ust->addWidget(new QLabel(QStringLiteral("Açıklama")), 3, 0);
   ust->addWidget(txtAciklama, 3, 1);
   ust->setColumnStretch(1, 1);
-
-  auto* rakam = new QGridLayout;
-  invoice::Satir(rakam, QStringLiteral("Tutar:"), txtTutar);
-  const int oran = rakam->rowCount();
-  rakam->addWidget(new QLabel(QStringLiteral("B.M. Vergi Oranı:")), oran, 0);
-  auto* vergi = new QHBoxLayout;
-  vergi->addWidget(txtBMOran);
-  vergi->addWidget(txtBMVergisi, 1);
-  rakam->addLayout(vergi, oran, 1);
-  invoice::Satir(rakam, QStringLiteral("Tahsil Masrafı:"), txtMasraf);
-  lblPul = invoice::Satir(rakam, QStringLiteral("Pul Masrafı:"), txtPul);
-  invoice::Satir(rakam, QStringLiteral("Toplam Müşteri Ödemesi:"), txtToplamOdeme);
-  invoice::Satir(rakam, QStringLiteral("Genel Toplam:"), txtGenelToplam);
-  auto* yazi = new QHBoxLayout;
-  yazi->addWidget(new QLabel(QStringLiteral("Yalnız")));
-  yazi->addWidget(lblYazi, 1);
-
-  auto* komutlar = new QHBoxLayout;
-  for (QPushButton* d : {cmdSave, cmdYazdir}) komutlar->addWidget(d);
-  komutlar->addStretch();
-  komutlar->addWidget(cmdExit);
-
-  auto* duzen = new QVBoxLayout(this);
-  duzen->addLayout(ust);
-  duzen->addLayout(rakam);
-  duzen->addLayout(yazi);
-  duzen->addLayout(komutlar);
+  Yerlestir(ust, Rakamlar(QStringLiteral("Pul Masrafı:")), {cmdSave, cmdYazdir});
 
   // --- behaviour: Hesapla on every change of the percent and the fee, and
   // when the percent or the amount is left; the stamp duty counts at the
   // next run.
-  invoice::ParaAlani(txtMasraf);
   ekran::AyrilirkenKontrol(txtTutar, [this] {
     double deger = 0;
     if (Genel::SayiOkuDene(txtTutar->text().trimmed(), deger))
@@ -125,7 +60,6 @@ void frmFaturaEk::Kur() {
     return true;
   });
   ekran::AyrilirkenKontrol(txtFaturaSeri, [this] { return txtFaturaSeri_Validate(); });
-  ekran::KontrolTetiklemez(cmdExit);
   for (QLineEdit* k : {txtBMOran, txtMasraf})
     connect(k, &QLineEdit::textChanged, this, [this] { Hesapla(); });
   const auto bagla = [this](QPushButton* d, auto f) {
@@ -148,20 +82,7 @@ void frmFaturaEk::Form_Load() {
   txtMusteriNo->setText(musteri_->cmbNo->currentText());
   cmdYazdir->setEnabled(false);
 
-  bool sayi = false;
-  const qint64 no = txtMusteriNo->text().trimmed().toLongLong(&sayi);
-  if (sayi) {
-    const db::Kayitlar rs =
-        Genel::Baglanti.Sorgu(QStringLiteral("SELECT * FROM Musteri WHERE MusteriNo = ?"), {no});
-    if (rs.SatirVar()) {
-      const auto m = [&rs](const char* ad) { return rs.Metin(QString::fromLatin1(ad)); };
-      lblMusteri->setText(m("Soyadi") + QLatin1Char(' ') + m("Adi") + QLatin1Char(' ') +
-                          m("Babaadi"));
-      lblAdres->setText(m("Adres") + QStringLiteral("  ") + m("Ilce") + QLatin1Char('/') +
-                        m("Il_AD"));
-      lblVergi->setText(m("VergiDairesi") + QLatin1Char('-') + m("VergiKimlikNo"));
-    }
-  }
+  MusteriGoster();
   yuklendi_ = true;
 }
 

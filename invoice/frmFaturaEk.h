@@ -6,26 +6,17 @@
 //
 // A blocking dialogue of frmMusteri, opened only while a customer is on show.
 
-#include <QDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
+#include "invoice/FaturaOrtak.h"
 
 class frmMusteri;
 
-class frmFaturaEk : public QDialog {
+class frmFaturaEk : public invoice::FaturaEkrani {
   Q_OBJECT
 
  public:
   explicit frmFaturaEk(frmMusteri *musteri, QWidget *ust = nullptr);
 
-  QLineEdit *txtTarih, *txtFaturaSeri, *txtFaturaNo, *txtAciklama;
-  QLabel *lblMusteri, *lblAdres, *lblVergi;
-  QLineEdit *txtTutar, *txtBMOran, *txtBMVergisi, *txtMasraf, *txtPul, *txtToplamOdeme,
-      *txtGenelToplam;
-  QLabel *lblPul, *lblYazi;
-  QLineEdit *txtMusteriNo;  // hidden, carried for the save
-  QPushButton *cmdFatNo, *cmdSave, *cmdYazdir, *cmdExit;
+  QLineEdit *txtTarih, *txtAciklama;
 
   void Form_Load();
   void Hesapla();
