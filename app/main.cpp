@@ -11,6 +11,7 @@
 
 #include "contract/SozlesmeBaski.h"
 #include "contract/SozlesmeYazdir.h"
+#include "contract/frmHesap.h"
 #include "contract/frmNoDegis.h"
 #include "contract/frmSipYazTanim.h"
 #include "contract/frmSozles.h"
@@ -198,6 +199,7 @@ void EkranlariKaydet() {
   master::DovizEkraniKaydet();
   contract::NoDegisEkraniKaydet();
   contract::SozlesmeEkraniKaydet();
+  contract::HesapEkraniKaydet();
   transfer::MaliyeEkraniKaydet();
   reports::TahsilatEkraniKaydet();
   reports::MusteriBilgiEkraniKaydet();

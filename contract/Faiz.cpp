@@ -191,7 +191,7 @@ Sonuc TutarHesap(const Girdi& girdi, std::span<const Satir> satirlar) {
     double kalan = t.Toplam - t.ToplamFaiz;  // the interest unrounded
     if (girdi.Masraf) {                      // the worksheet's T11 b-e
       s.TahsilMasrafi = *girdi.Masraf * static_cast<double>(t.DetaySayisi);
-      s.BMVergisi = t.ToplamFaiz * 0.05;
+      s.BMVergisi = t.ToplamFaiz * kBMVergisiOrani;
       const double provizyon = *s.BMVergisi + *s.TahsilMasrafi;
       s.txtVergiProv = ParaYazisi(provizyon);
       kalan = t.Toplam - t.ToplamFaiz - provizyon;

@@ -26,6 +26,10 @@ inline constexpr char16_t kMiktarBaslik[] = u"UYARI";
 // Amounts above this are old lira (step A3).
 inline constexpr double kEskiLiraSiniri = 250000;
 
+// The worksheet's tax on the interest (its step T11c): fixed, no field or
+// setting changes it.
+inline constexpr double kBMVergisiOrani = 0.05;
+
 // One line of SozlesmeDetay (or HesapDetay) as TutarHesap reads it.
 struct Satir {
   QDate Vadesi;    // a null or invalid date stands for a Null Vadesi

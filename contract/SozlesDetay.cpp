@@ -2,10 +2,11 @@
 // totals worked out from them, and adding, changing and deleting a line. Every
 // change of a line saves the contract before and after it.
 
-#include <QHeaderView>
+#include <QLineEdit>
 #include <vector>
 
 #include "contract/Faiz.h"
+#include "contract/SozlesOrtak.h"
 #include "contract/frmSozBul.h"
 #include "contract/frmSozles.h"
 #include "core/Genel.h"
@@ -18,39 +19,14 @@ const QString kSenet = QStringLiteral("Senet");
 
 }  // namespace
 
-QString frmSozles::MeblagYazisi(double deger) {
-  QString s = faiz::ParaYazisi(deger);
-  const QChar ondalik = Genel::Bolge().ondalik;
-  const int sifir = s.startsWith(QLatin1Char('-')) ? 1 : 0;
-  if (s.size() > sifir + 1 && s[sifir] == QLatin1Char('0') && s[sifir + 1] == ondalik)
-    s.remove(sifir, 1);
-  return s;
-}
+QString frmSozles::MeblagYazisi(double deger) { return contract::MeblagYazisi(deger); }
 
 // --- the grid
 
 void frmSozles::DetayAc() {
-  // The day count of rule D in SQL: the override, or the days from the
-  // contract date on screen plus ilaveGun, and with the weekend setting on a
-  // Saturday two days more and a Sunday one.
-  const QString haftaSonu =
-      Genel::HaftaSonu
-          ? QStringLiteral(" + CASE Weekday(Vadesi) WHEN 1 THEN 1 WHEN 7 THEN 2 ELSE 0 END")
-          : QString();
-  const QString sql =
-      QStringLiteral(
-          "SELECT GirisNo, SozlesmeNo, Tip, Kesideci, Banka, Sube, HesapNo, CekNo, Vadesi, Gun, "
-          "Meblag, Doviz, Karsilik, Odenmesi, "
-          "CASE WHEN Gun = 0 THEN GunFarki(?, Vadesi) + ?") +
-      haftaSonu +
-      QStringLiteral(
-          " ELSE Gun END AS Gunu, SozlesmeSeri, MeblagTL, SozlesmeID, "
-          "CASE WHEN Odenmesi < ? THEN 'Tahsil' WHEN Odenmesi IS NULL THEN 'Ksız' ELSE '' END "
-          "AS Durum FROM SozlesmeDetay WHERE SozlesmeID = ?");
-  const QString simdi =
-      QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
   rsDetay =
-      Genel::Baglanti.Sorgu(sql, {Genel::TarihSql(txtTarih->text()), ilaveGun, simdi, SozlesmeID});
+      Genel::Baglanti.Sorgu(contract::DetayIzgaraSorgusu(QStringLiteral("SozlesmeDetay"), true),
+                            contract::DetayIzgaraDegerleri(txtTarih->text(), ilaveGun, SozlesmeID));
   DetayBagla();
 }
 
@@ -62,32 +38,20 @@ void frmSozles::DetayDuzAc() {
 
 void frmSozles::DetayBagla() {
   dGridDetay->Bagla(&rsDetay);
-  // The grid's columns in their order; whatever else the set holds stays
-  // hidden. GirisNo and SozlesmeNo are bound but of no use to the clerk.
-  struct Sutun {
-    const char* ad;
-    int harf;  // width in characters; 0 stretches
-  };
-  static constexpr Sutun kSutunlar[] = {{"GirisNo", 6},  {"SozlesmeNo", 8}, {"Tip", 6},
-                                        {"Kesideci", 0}, {"Banka", 12},     {"Sube", 12},
-                                        {"HesapNo", 11}, {"CekNo", 10},     {"Vadesi", 10},
-                                        {"Gunu", 5},     {"Meblag", 13},    {"Durum", 6}};
-  QHeaderView* baslik = dGridDetay->horizontalHeader();
-  for (int i = 0; i < rsDetay.AlanSayisi(); ++i) dGridDetay->setColumnHidden(i, true);
-  const int harf = dGridDetay->fontMetrics().horizontalAdvance(QStringLiteral("0123456789")) / 10;
-  int yer = 0;
-  for (const Sutun& s : kSutunlar) {
-    const int alan = rsDetay.AlanNo(QString::fromLatin1(s.ad));
-    if (alan < 0) continue;
-    baslik->moveSection(baslik->visualIndex(alan), yer++);
-    dGridDetay->setColumnHidden(alan, yer <= 2);
-    if (s.harf == 0) {
-      baslik->setSectionResizeMode(alan, QHeaderView::Stretch);
-    } else {
-      baslik->setSectionResizeMode(alan, QHeaderView::Interactive);
-      baslik->resizeSection(alan, harf * s.harf + 12);
-    }
-  }
+  // GirisNo and SozlesmeNo are bound but of no use to the clerk.
+  static constexpr contract::IzgaraSutunu kSutunlar[] = {{"GirisNo", 6, false},
+                                                         {"SozlesmeNo", 8, false},
+                                                         {"Tip", 6},
+                                                         {"Kesideci", 0},
+                                                         {"Banka", 12},
+                                                         {"Sube", 12},
+                                                         {"HesapNo", 11},
+                                                         {"CekNo", 10},
+                                                         {"Vadesi", 10},
+                                                         {"Gunu", 5},
+                                                         {"Meblag", 13},
+                                                         {"Durum", 6}};
+  contract::DetaySutunlari(dGridDetay, rsDetay, kSutunlar);
 }
 
 // --- totals
@@ -101,27 +65,7 @@ void frmSozles::TutarHesap() {
   girdi.HaftaSonu = Genel::HaftaSonu;
   girdi.OrtalamaGun = Genel::OrtalamaGun;
 
-  const int vade = rsDetay.AlanNo(QStringLiteral("Vadesi"));
-  const int gun = rsDetay.AlanNo(QStringLiteral("Gun"));
-  const int meblag = rsDetay.AlanNo(QStringLiteral("Meblag"));
-  const int cekNo = rsDetay.AlanNo(QStringLiteral("CekNo"));
-  const int kesideci = rsDetay.AlanNo(QStringLiteral("Kesideci"));
-  const auto metin = [this](int satir, int alan) {
-    const QVariant v = rsDetay.Deger(satir, alan);
-    return db::NullMu(v) ? QString() : v.toString();
-  };
-  std::vector<faiz::Satir> satirlar(std::size_t(rsDetay.RecordCount()));
-  for (int i = 0; i < rsDetay.RecordCount(); ++i) {
-    faiz::Satir& s = satirlar[std::size_t(i)];
-    s.Vadesi = QDate::fromString(metin(i, vade).left(10), Qt::ISODate);
-    s.Gun = faiz::GunOku(metin(i, gun));
-    s.Meblag = rsDetay.Deger(i, meblag).toDouble();
-    if (i == 0) {
-      s.CekNo = metin(i, cekNo);
-      s.Kesideci = metin(i, kesideci);
-    }
-  }
-
+  const std::vector<faiz::Satir> satirlar = contract::FaizSatirlari(rsDetay);
   const faiz::Sonuc sonuc = faiz::TutarHesap(girdi, satirlar);
   DetaySayisi = sonuc.DetaySayisi;
   if (sonuc.GunYazisi) GunYazisi = *sonuc.GunYazisi;
@@ -169,13 +113,7 @@ bool frmSozles::DetayKontrol() {
     if (alan->isEnabled()) alan->setFocus();
     return false;
   };
-  // A line being changed doesn't count against the limit.
-  if (DetaySayisi >= Genel::DetayLimit && DetayDurum != 1) {
-    mesaj::Uyari(QStringLiteral("Bir Sözleşmeyle İlişkilendirilecek Belge Sayısı En Fazla %1 dir. "
-                                "Lütfen Yeni Bir Sözleşme Açınız")
-                     .arg(Genel::DetayLimit));
-    return false;
-  }
+  if (!contract::DetayLimitiKontrol(DetaySayisi, DetayDurum)) return false;
   if (txtSozlesmeNo->text().trimmed().isEmpty())
     return uyari(txtSozlesmeNo, QStringLiteral("Lütfen Sözleşme Numarası Girin!!"));
   if (txtKesideci->text().trimmed().isEmpty())
@@ -191,22 +129,12 @@ bool frmSozles::DetayKontrol() {
     if (txtCekNo->text().trimmed().isEmpty())
       return uyari(txtCekNo, QStringLiteral("Lütfen Çek No'sunu Girin!!"));
   }
-  if (!Genel::TarihOku(txtVade->text()).isValid())
-    return uyari(txtVade, QStringLiteral("Lütfen Vade Bilgisini Girin!!"));
-  if (!Genel::SayiMi(txtGun->text()))
-    return uyari(txtGun, QStringLiteral("Lütfen Gün bilgisine Gün Sayısını ya da 0 Girin!!"));
-  if (!Genel::SayiMi(txtMeblag->text()))
-    return uyari(txtMeblag, QStringLiteral("Lütfen Meblağn bilgisini Girin!!"));
-  return true;
+  return contract::VadeGunMeblagKontrol(txtVade, txtGun, txtMeblag);
 }
 
 void frmSozles::DetayYaz() {
   const QVariant vade = Genel::TarihSql(txtVade->text());
-  // The day field holds a whole number of days; a fraction rounds as the
-  // table's integer column takes it.
-  const qint64 gun = txtGun->text().isEmpty()
-                         ? 0
-                         : qint64(Genel::YuvarlaBankaci(Genel::SayiOku(txtGun->text()), 0));
+  const qint64 gun = contract::GunDegeri(txtGun->text());
   const QString meblag = txtMeblag->text();
   if (DetayDurum != 1) {
     Genel::Baglanti.Calistir(

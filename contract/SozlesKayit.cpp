@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "contract/Faiz.h"
+#include "contract/SozlesOrtak.h"
 #include "contract/frmSozBul.h"
 #include "contract/frmSozles.h"
 #include "core/Ekran.h"
@@ -12,11 +13,9 @@
 
 namespace {
 
-// A value the screen can't give to the database. The save reports it as it
-// reports a refusal of the engine.
-struct Red {
-  QString neden;
-};
+using contract::MusteriNoOku;
+using contract::Red;
+using contract::TutarOku;
 
 // The contract number goes to the table as a 32-bit integer; the find and
 // renumber dialogs read it by the same rule.
@@ -25,21 +24,6 @@ qint32 SozlesmeNoOku(const QString& metin) {
   const std::optional<qint32> no = contract::SozlesmeNoOku(metin, &neden);
   if (!no) throw Red{QStringLiteral("Sözleşme Numarası ") + neden};
   return *no;
-}
-
-qint64 MusteriNoOku(const QString& metin) {
-  bool tamam = false;
-  const qint64 no = metin.trimmed().toLongLong(&tamam);
-  if (!tamam) throw Red{QStringLiteral("Müşteri Seçilmemiş")};
-  return no;
-}
-
-// An amount field: empty is 0.
-double TutarOku(const QString& metin, const QString& alan) {
-  if (metin.isEmpty()) return 0;
-  double v = 0;
-  if (!Genel::SayiOkuDene(metin, v)) throw Red{alan + QStringLiteral(" Sayı Değil")};
-  return v;
 }
 
 double OranOku(const QString& metin) {
@@ -76,9 +60,7 @@ void NumarayiTasi(qint32 id, qint32 no) {
 
 }  // namespace
 
-QString frmSozles::HataMetni() {
-  return QStringLiteral("Bir Hata Oldu, Lütfen Bilgileri Kontrol Edin");
-}
+QString frmSozles::HataMetni() { return contract::KayitHataMetni(); }
 
 // --- a new contract
 

@@ -13,9 +13,9 @@
 #include <QKeyEvent>
 #include <QListView>
 #include <QVBoxLayout>
-#include <algorithm>
 
 #include "contract/Faiz.h"
+#include "contract/SozlesOrtak.h"
 #include "contract/frmSozBul.h"
 #include "contract/rptBordro.h"
 #include "core/Ekran.h"
@@ -29,32 +29,9 @@ namespace {
 
 const QColor kZemin(255, 192, 128);
 
-QPushButton* Dugme(const QString& ad, const QString& yazi) {
-  auto* d = new QPushButton(yazi);
-  d->setObjectName(ad);
-  d->setAutoDefault(false);
-  d->setMinimumWidth(d->sizeHint().width() + 12);
-  return d;
-}
-
-// Keeps a widget's place in its layout while it is hidden, so that the screen
-// doesn't jump when the contract part comes and goes.
-void YeriniKoru(QWidget* w) {
-  QSizePolicy p = w->sizePolicy();
-  p.setRetainSizeWhenHidden(true);
-  w->setSizePolicy(p);
-}
-
-// A number column as the screen shows it: "4,5" for 4.5, "" for Null.
-QString SayiMetni(const QVariant& v) {
-  if (db::NullMu(v)) return QString();
-  if (v.typeId() == QMetaType::Double) {
-    QString s = QString::number(v.toDouble(), 'g', 15);
-    s.replace(QLatin1Char('.'), Genel::Bolge().ondalik);
-    return s;
-  }
-  return v.toString();
-}
+using contract::Dugme;
+using contract::SayiMetni;
+using contract::YeriniKoru;
 
 }  // namespace
 
@@ -257,28 +234,7 @@ void frmSozles::Kur() {
   dGridDetay = new ekran::Izgara;
   dGridDetay->setObjectName(QStringLiteral("dGridDetay"));
   dGridDetay->setMinimumHeight(dGridDetay->verticalHeader()->defaultSectionSize() * 7);
-  {
-    ekran::IzgaraModeli* m = dGridDetay->Model();
-    m->Baslik(QStringLiteral("GirisNo"), QStringLiteral("GirisNo"));
-    m->Baslik(QStringLiteral("SozlesmeNo"), QStringLiteral("SozlesmeNo"));
-    m->Baslik(QStringLiteral("Tip"), QStringLiteral("Tip"));
-    m->Baslik(QStringLiteral("Kesideci"), QStringLiteral("Keşideci"));
-    m->Baslik(QStringLiteral("Banka"), QStringLiteral("Banka"));
-    m->Baslik(QStringLiteral("Sube"), QStringLiteral("Şube"));
-    m->Baslik(QStringLiteral("HesapNo"), QStringLiteral("Hesap No"));
-    m->Baslik(QStringLiteral("CekNo"), QStringLiteral("Çek No"));
-    m->Baslik(QStringLiteral("Vadesi"), QStringLiteral("Vadesi"));
-    m->TarihBicimi(QStringLiteral("Vadesi"));
-    m->Baslik(QStringLiteral("Gunu"), QStringLiteral("Gün"));
-    m->Ayar(QStringLiteral("Gunu")).hiza = Qt::AlignRight | Qt::AlignVCenter;
-    m->Baslik(QStringLiteral("Meblag"), QStringLiteral("Meblağ"));
-    ekran::IzgaraModeli::Sutun& meblag = m->Ayar(QStringLiteral("Meblag"));
-    meblag.hiza = Qt::AlignRight | Qt::AlignVCenter;
-    meblag.yaz = [](const QVariant& v) {
-      return db::NullMu(v) ? QString() : MeblagYazisi(v.toDouble());
-    };
-    m->Baslik(QStringLiteral("Durum"), QStringLiteral("Durum"));
-  }
+  contract::DetayIzgarasiKur(dGridDetay);
 
   // --- commands
   cmdNew = Dugme(QStringLiteral("cmdNew"), QStringLiteral("&Yeni Sözleşme Gir"));
@@ -435,20 +391,7 @@ void frmSozles::Form_Load() {
 }
 
 void frmSozles::MusteriDoldur() {
-  rsMusteri = Genel::Baglanti.Sorgu(
-      QStringLiteral("SELECT MusteriNo, Soyadi, Adi, Bulunacak FROM MusteriQry"));
-  const int adet = std::min(rsMusteri.RecordCount(), kMusteriSiniri);
-  const int ad = rsMusteri.AlanNo(QStringLiteral("Bulunacak"));
-  QVector<master::MusteriListesi::Oge> ogeler;
-  ogeler.reserve(adet);
-  for (int i = 0; i < adet; ++i) {
-    const QVariant v = rsMusteri.Deger(i, ad);
-    ogeler.push_back(
-        {db::NullMu(v) ? QString() : v.toString(), rsMusteri.Deger(i, 0).toLongLong()});
-  }
-  musteriler_->SiraliDoldur(std::move(ogeler));
-  cmbAd->setCurrentIndex(-1);
-  rsMusteri.MoveFirst();
+  contract::MusteriDoldur(rsMusteri, musteriler_, cmbAd, kMusteriSiniri);
 }
 
 void frmSozles::Form_Unload() {
@@ -587,45 +530,10 @@ void frmSozles::Gorunum(bool Durum) {
 // --- the customer
 
 void frmSozles::MusteriBul() {
-  rsMusteri.MoveFirst();
-  bool sayi = false;
-  const qint64 no = txtMusteriNo->text().trimmed().toLongLong(&sayi);
-  // rsMusteri stands in number order: halve it.
-  int alt = 0, ust = rsMusteri.RecordCount() - 1, bulunan = -1;
-  while (sayi && alt <= ust) {
-    const int orta = alt + (ust - alt) / 2;
-    const qint64 x = rsMusteri.Deger(orta, 0).toLongLong();
-    if (x == no) {
-      bulunan = orta;
-      break;
-    }
-    if (x < no)
-      alt = orta + 1;
-    else
-      ust = orta - 1;
-  }
-  if (bulunan < 0) {
-    mesaj::Kritik(QStringLiteral("Aranan Kayıt Bulunamadı!"), QStringLiteral("Arama"));
-    rsMusteri.MoveFirst();
-    cmbAd->setFocus();
-    return;
-  }
-  rsMusteri.Move(bulunan);
-  const int satir = musteriler_->DegerSatiri(no);
-  if (satir >= 0) {
-    cmbAd->setCurrentIndex(satir);
-  } else {  // beyond the customers the list takes
-    cmbAd->setCurrentIndex(-1);
-    cmbAd->setEditText(rsMusteri.Metin(QStringLiteral("Bulunacak")));
-  }
+  contract::MusteriBul(rsMusteri, musteriler_, cmbAd, txtMusteriNo->text());
 }
 
-int frmSozles::SeciliMusteri() const {
-  const QString yazi = cmbAd->currentText();
-  const int i = cmbAd->currentIndex();
-  if (i >= 0 && cmbAd->itemText(i) == yazi) return i;
-  return yazi.isEmpty() ? -1 : musteriler_->Bul(yazi);
-}
+int frmSozles::SeciliMusteri() const { return contract::SeciliMusteri(cmbAd, musteriler_); }
 
 void frmSozles::cmbAd_GotFocus() {
   // The old contract goes while another customer is picked.
@@ -635,18 +543,9 @@ void frmSozles::cmbAd_GotFocus() {
 bool frmSozles::cmbAd_Validate() {
   // Opening its own list is no leaving.
   if (QApplication::activePopupWidget() || !Ayriliyor(cmbAd)) return true;
-  const int i = SeciliMusteri();
   // Browsing, an empty list is no pick to refuse: cmdNew tells the clerk to
   // pick a customer. A new contract over all contracts needs one.
-  if (i < 0 && KayitDurum == 0 && cmbAd->currentText().trimmed().isEmpty()) return true;
-  if (i < 0) {
-    mesaj::Kritik(QStringLiteral("Lütfen Listeden Bir Müşteri Seçiniz"),
-                  QStringLiteral("Müşteri Seçimi"));
-    return false;
-  }
-  if (cmbAd->currentIndex() != i) cmbAd->setCurrentIndex(i);
-  txtMusteriNo->setText(QString::number(musteriler_->At(i).deger));
-  return true;
+  return contract::MusteriSecimi(cmbAd, musteriler_, txtMusteriNo, KayitDurum == 0);
 }
 
 void frmSozles::cmdBilgiGoster_Click() {
@@ -756,20 +655,10 @@ void frmSozles::cmdBordro_Click() {
 
 // --- fields
 
-bool frmSozles::Ayriliyor(QWidget* w) { return w->isEnabled() && w->isVisible(); }
+bool frmSozles::Ayriliyor(QWidget* w) { return contract::Ayriliyor(w); }
 
 void frmSozles::HesaplaKilit() {
-  const faiz::HesaplaKilidi k = faiz::HesaplaKilit(Hesapla);
-  // A locked box is out of the tab order and takes no click; an open one
-  // goes into the tab order or out of it as the lock says.
-  const auto uygula = [](QLineEdit* kutu, const faiz::AlanKilidi& kilit) {
-    ekran::SaltOkunur(kutu, kilit.Kilitli);
-    if (!kilit.Kilitli && kilit.Sekmede)
-      kutu->setFocusPolicy(*kilit.Sekmede ? Qt::StrongFocus : Qt::ClickFocus);
-  };
-  uygula(txtTutar, k.txtTutar);
-  uygula(txtFaizTutar, k.txtFaizTutar);
-  uygula(txtOdenecek, k.txtOdenecek);
+  contract::HesaplaKilitUygula(Hesapla, txtTutar, txtFaizTutar, txtOdenecek);
 }
 
 void frmSozles::chkHesapla_Click() {
@@ -786,21 +675,11 @@ bool frmSozles::txtValor_Validate() {
 }
 
 bool frmSozles::AlanKontrol(QLineEdit* kutu, bool Meblag) {
-  if (!Ayriliyor(kutu)) return true;
-  const std::optional<QString> yeni = faiz::TutarAlani(kutu->text(), Meblag);
-  if (!yeni) {
-    mesaj::Kritik(QStringView(faiz::kMiktarMesaji).toString(),
-                  QStringView(faiz::kMiktarBaslik).toString());
-    return false;
-  }
-  if (*yeni != kutu->text()) kutu->setText(*yeni);
-  return true;
+  return !Ayriliyor(kutu) || contract::TutarKontrol(kutu, Meblag);
 }
 
 void frmSozles::OranKontrol(QLineEdit* kutu) {
-  if (!Ayriliyor(kutu)) return;
-  const QString yeni = faiz::OranAlani(kutu->text());
-  if (yeni != kutu->text()) kutu->setText(yeni);
+  if (Ayriliyor(kutu)) contract::OranKontrol(kutu);
 }
 
 bool frmSozles::eventFilter(QObject* o, QEvent* e) {

@@ -1,0 +1,734 @@
+// The calculation worksheet: building it, opening it, showing the scratch
+// record, wiping it, saving it, and its lines and bordro.
+
+#include "contract/frmHesap.h"
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QListView>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "contract/Faiz.h"
+#include "contract/SozlesOrtak.h"
+#include "contract/rptHesap.h"
+#include "core/Ekran.h"
+#include "core/Genel.h"
+#include "core/Koruma.h"
+#include "core/Kutu.h"
+#include "core/Mesaj.h"
+#include "master/MusteriListesi.h"
+
+namespace {
+
+const QColor kZemin(192, 196, 193);
+
+// Every line of the worksheet is a cheque without drawer, bank or number.
+const QString kCek = QStringLiteral("Çek");
+
+using contract::Ayriliyor;
+using contract::Dugme;
+
+}  // namespace
+
+frmHesap::frmHesap(QWidget* ust) : ekran::Form(ust), musteriler_(new master::MusteriListesi(this)) {
+  Kur();
+  KurDavranis();
+}
+
+frmHesap::~frmHesap() {
+  // The grid outlives the record set while the widgets are torn down.
+  dGridDetay->Bagla(nullptr);
+}
+
+void frmHesap::Kur() {
+  QPalette zemin = palette();
+  zemin.setColor(QPalette::Window, kZemin);
+  setPalette(zemin);
+  setAutoFillBackground(true);
+
+  const auto etiket = [this](const QString& yazi) {
+    auto* l = new QLabel(yazi);
+    etiketler_ << l;
+    return l;
+  };
+  const int harf = fontMetrics().horizontalAdvance(QStringLiteral("0123456789")) / 10;
+  const auto genislik = [harf](QWidget* w, int n) { w->setFixedWidth(harf * n + 16); };
+
+  // --- the customer
+  frmSearch = new QGroupBox(QStringLiteral("Müşteri"));
+  frmSearch->setObjectName(QStringLiteral("frmSearch"));
+  frmSearch->setPalette(zemin);
+  frmSearch->setAutoFillBackground(true);
+  lblSoyadAd = etiket(QStringLiteral("Soyad, Ad:"));
+  cmbAd = new QComboBox;
+  cmbAd->setObjectName(QStringLiteral("cmbAd"));
+  ekran::AnahtarListesi(cmbAd);
+  cmbAd->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  cmbAd->setModel(musteriler_);
+  cmbAd->setMaxVisibleItems(20);
+  if (auto* v = qobject_cast<QListView*>(cmbAd->view())) v->setUniformItemSizes(true);
+  cmbAd->setMinimumWidth(harf * 36);
+  txtMusteriNo = new QLineEdit(this);
+  txtMusteriNo->setObjectName(QStringLiteral("txtMusteriNo"));
+  txtMusteriNo->hide();
+  {
+    auto* h = new QHBoxLayout(frmSearch);
+    h->addWidget(lblSoyadAd);
+    h->addWidget(cmbAd, 1);
+    h->addStretch();
+  }
+
+  // --- the calculation: what the clerk gives on the left, what comes of it
+  // on the right, from the total down to the payable amount.
+  txtTarih = ekran::Kutu(QStringLiteral("txtTarih"));
+  txtFaizOran = ekran::Kutu(QStringLiteral("txtFaizOran"), 10);
+  txtValor = ekran::Kutu(QStringLiteral("txtValor"), 2);
+  txtMasraf = ekran::Kutu(QStringLiteral("txtMasraf"), 15);
+  txtTutar = ekran::Kutu(QStringLiteral("txtTutar"), 20);
+  txtFaizTutar = ekran::Kutu(QStringLiteral("txtFaizTutar"), 20);
+  txtVergiProv = ekran::Kutu(QStringLiteral("txtVergiProv"), 20);
+  txtVergiProv->setText(QStringLiteral("0"));
+  txtOdenecek = ekran::Kutu(QStringLiteral("txtOdenecek"), 20);
+  for (QLineEdit* k : {txtMasraf, txtTutar, txtFaizTutar, txtVergiProv, txtOdenecek})
+    k->setAlignment(Qt::AlignRight);
+  lblFaizGun = etiket(QString());
+  lblFaizGun->setObjectName(QStringLiteral("lblFaizGun"));
+  lblFaizGun->setMinimumWidth(harf * 14);
+  QFont kalin = lblFaizGun->font();
+  kalin.setBold(true);
+  lblFaizGun->setFont(kalin);
+  txtOdenecek->setFont(kalin);
+
+  genislik(txtTarih, 10);
+  genislik(txtFaizOran, 6);
+  genislik(txtValor, 3);
+  for (QLineEdit* k : {txtMasraf, txtTutar, txtFaizTutar, txtVergiProv, txtOdenecek})
+    genislik(k, 15);
+
+  auto* hesap = new QGridLayout;
+  hesap->setHorizontalSpacing(8);
+  hesap->setVerticalSpacing(6);
+  const auto sol = [](QWidget* w) {
+    auto* h = new QHBoxLayout;
+    h->addWidget(w);
+    h->addStretch();
+    return h;
+  };
+  hesap->addWidget(etiket(QStringLiteral("Tarih:")), 0, 0);
+  hesap->addLayout(sol(txtTarih), 0, 1);
+  hesap->addWidget(etiket(QStringLiteral("Faiz:")), 1, 0);
+  hesap->addLayout(sol(txtFaizOran), 1, 1);
+  hesap->addWidget(etiket(QStringLiteral("Valör:")), 2, 0);
+  hesap->addLayout(sol(txtValor), 2, 1);
+  hesap->addWidget(etiket(QStringLiteral("Provizyon")), 3, 0);
+  hesap->addLayout(sol(txtMasraf), 3, 1);
+  hesap->setColumnMinimumWidth(2, harf * 4);
+  hesap->addWidget(etiket(QStringLiteral("Tutar:")), 0, 3);
+  hesap->addWidget(txtTutar, 0, 4);
+  hesap->addWidget(etiket(QStringLiteral("Faiz Tutar:")), 1, 3);
+  hesap->addWidget(txtFaizTutar, 1, 4);
+  hesap->addWidget(etiket(QStringLiteral("Vergi / Prov. ")), 2, 3);
+  hesap->addWidget(txtVergiProv, 2, 4);
+  hesap->addWidget(etiket(QStringLiteral("ÖdenecekTutar:")), 3, 3);
+  hesap->addWidget(txtOdenecek, 3, 4);
+  hesap->addWidget(lblFaizGun, 3, 5);
+  hesap->setColumnStretch(6, 1);
+
+  // --- the lines
+  frmCek = new QGroupBox(QStringLiteral("Belge  Giriş - Düzeltme"));
+  frmCek->setObjectName(QStringLiteral("frmCek"));
+  txtVade = ekran::Kutu(QStringLiteral("txtVade"));
+  txtGun = ekran::Kutu(QStringLiteral("txtGun"), 3);
+  txtMeblag = ekran::Kutu(QStringLiteral("txtMeblag"));
+  txtMeblag->setAlignment(Qt::AlignRight);
+  cmdDetayEkle = Dugme(QStringLiteral("cmdDetayEkle"), QStringLiteral("Ekle"));
+  cmdVazgec = Dugme(QStringLiteral("cmdVazgec"), QStringLiteral("Vazgeç"));
+  cmdDetaySil = Dugme(QStringLiteral("cmdDetaySil"), QStringLiteral("Sil"));
+  cmdCekDuzelt = Dugme(QStringLiteral("cmdCekDuzelt"), QStringLiteral("DÜZELT"));
+  // "Ekle" becomes "Kaydet" while a line is changed: room for the longer one.
+  cmdDetayEkle->setMinimumWidth(
+      std::max(cmdDetayEkle->minimumWidth(),
+               cmdDetayEkle->fontMetrics().horizontalAdvance(QStringLiteral("Kaydet")) + 24));
+  cmdDetaySil->hide();
+  contract::YeriniKoru(cmdDetaySil);
+  genislik(txtVade, 10);
+  genislik(txtGun, 4);
+  genislik(txtMeblag, 15);
+  {
+    auto* h = new QHBoxLayout(frmCek);
+    h->setSpacing(8);
+    h->addWidget(etiket(QStringLiteral("Vade:")));
+    h->addWidget(txtVade);
+    h->addSpacing(8);
+    h->addWidget(etiket(QStringLiteral("Gün:")));
+    h->addWidget(txtGun);
+    h->addSpacing(8);
+    h->addWidget(etiket(QStringLiteral("Meblağ:")));
+    h->addWidget(txtMeblag);
+    h->addSpacing(12);
+    for (QPushButton* d : {cmdDetayEkle, cmdVazgec, cmdDetaySil}) h->addWidget(d);
+    h->addStretch();
+  }
+
+  dGridDetay = new ekran::Izgara;
+  dGridDetay->setObjectName(QStringLiteral("dGridDetay"));
+  dGridDetay->setMinimumHeight(dGridDetay->verticalHeader()->defaultSectionSize() * 5);
+  contract::DetayIzgarasiKur(dGridDetay);
+
+  // --- commands
+  cmdNew = Dugme(QStringLiteral("cmdNew"), QStringLiteral("&Yeni Hesaplama"));
+  cmdBordro = Dugme(QStringLiteral("cmdBordro"), QStringLiteral("Bordro"));
+  cmdExit = Dugme(QStringLiteral("cmdExit"), QStringLiteral("&Çıkış"));
+
+  auto* izgaraAlti = new QHBoxLayout;
+  izgaraAlti->addStretch();
+  izgaraAlti->addWidget(cmdCekDuzelt);
+
+  auto* komutlar = new QHBoxLayout;
+  komutlar->addWidget(cmdNew);
+  komutlar->addStretch();
+  komutlar->addWidget(cmdBordro);
+  komutlar->addSpacing(12);
+  komutlar->addWidget(cmdExit);
+
+  auto* duzen = new QVBoxLayout(this);
+  duzen->addWidget(frmSearch);
+  duzen->addLayout(hesap);
+  duzen->addWidget(frmCek);
+  duzen->addWidget(dGridDetay, 1);
+  duzen->addLayout(izgaraAlti);
+  duzen->addLayout(komutlar);
+
+  // The order of the keyboard: customer, the four fields the clerk gives, the
+  // line, then the commands. The computed boxes are locked and out of it.
+  const QList<QWidget*> sira = {cmbAd,      txtTarih,     txtFaizOran,  txtValor,    txtMasraf,
+                                txtTutar,   txtFaizTutar, txtVergiProv, txtOdenecek, txtVade,
+                                txtGun,     txtMeblag,    cmdDetayEkle, cmdVazgec,   cmdDetaySil,
+                                dGridDetay, cmdCekDuzelt, cmdNew,       cmdBordro,   cmdExit};
+  for (int i = 1; i < sira.size(); ++i) setTabOrder(sira[i - 1], sira[i]);
+}
+
+void frmHesap::KurDavranis() {
+  // Leaving a field.
+  ekran::AyrilirkenKontrol(cmbAd, [this] { return cmbAd_Validate(); });
+  ekran::AyrilirkenKontrol(txtTarih, [this] { return txtTarih_Validate(); });
+  ekran::AyrilirkenKontrol(txtVade,
+                           [this] { return !Ayriliyor(txtVade) || ekran::TarihDuzelt(txtVade); });
+  ekran::TarihKutusuKur(txtTarih);
+  ekran::TarihKutusuKur(txtVade);
+  for (QLineEdit* k : {txtTutar, txtFaizTutar, txtOdenecek})
+    ekran::AyrilirkenKontrol(k, [k] { return !Ayriliyor(k) || contract::TutarKontrol(k, false); });
+  ekran::AyrilirkenKontrol(txtMeblag, [this] {
+    return !Ayriliyor(txtMeblag) || contract::TutarKontrol(txtMeblag, true);
+  });
+  ekran::AyrilirkenKontrol(txtFaizOran, [this] {
+    if (Ayriliyor(txtFaizOran)) contract::OranKontrol(txtFaizOran);
+    return true;
+  });
+  ekran::AyrilirkenKontrol(txtGun, [this] {
+    if (Ayriliyor(txtGun)) txtGun->setText(faiz::GunAlani(txtGun->text()));
+    return true;
+  });
+  ekran::AyrilirkenKontrol(txtValor, [this] { return txtValor_Validate(); });
+  ekran::AyrilirkenKontrol(txtMasraf, [this] { return txtMasraf_Validate(); });
+  ekran::SayiTusuKur(txtMasraf);
+  // Computed: never typed.
+  ekran::SaltOkunur(txtVergiProv, true);
+  ekran::SaltOkunur(txtOdenecek, true);
+  for (QWidget* w : std::initializer_list<QWidget*>{cmdVazgec, cmdExit})
+    ekran::KontrolTetiklemez(w);
+
+  for (QWidget* w : std::initializer_list<QWidget*>{cmbAd, txtTarih}) w->installEventFilter(this);
+
+  // What the clerk sets off: an engine failure none of them handles is shown
+  // and the screen stays as it is.
+  const auto korumali = [this](void (frmHesap::*f)()) {
+    return [this, f] { ekran::Korumali([this, f] { (this->*f)(); }); };
+  };
+  connect(dGridDetay, &ekran::Izgara::CiftTiklandi, this, korumali(&frmHesap::dGridDetay_DblClick));
+  const auto bagla = [this, korumali](QPushButton* d, void (frmHesap::*f)()) {
+    connect(d, &QPushButton::clicked, this, korumali(f));
+  };
+  bagla(cmdNew, &frmHesap::cmdNew_Click);
+  bagla(cmdBordro, &frmHesap::cmdBordro_Click);
+  bagla(cmdExit, &frmHesap::cmdExit_Click);
+  bagla(cmdDetayEkle, &frmHesap::cmdDetayEkle_Click);
+  bagla(cmdCekDuzelt, &frmHesap::cmdCekDuzelt_Click);
+  bagla(cmdDetaySil, &frmHesap::cmdDetaySil_Click);
+  bagla(cmdVazgec, &frmHesap::cmdVazgec_Click);
+}
+
+// --- opening and closing
+
+void frmHesap::Form_Load() {
+  musteriBazinda_ = Genel::MusteriBazinda;
+  ekran::FormOrtala(this, kYukseklik, kGenislik);
+  lblFaizGun->clear();
+  txtMusteriNo->clear();
+  setWindowTitle(QStringLiteral("Ödünç Para"));
+  contract::MusteriDoldur(rsMusteri, musteriler_, cmbAd, kMusteriSiniri);
+  // In either mode: the last calculation comes back.
+  rsSozlesme = Genel::Baglanti.Sorgu(QStringLiteral("SELECT * FROM Hesap ORDER BY Tarih"));
+  KayitDurum = 0;
+  Goster();
+  CekBosalt();  // the day field shows its "0" from the start
+}
+
+void frmHesap::Form_Unload() {
+  // The tables keep what they hold.
+  rsSozlesme.reset();
+  dGridDetay->Bagla(nullptr);
+  rsDetay = db::Kayitlar();
+  rsMusteri = db::Kayitlar();
+}
+
+void frmHesap::cmdExit_Click() { Kapat(); }
+
+// --- showing the calculation
+
+void frmHesap::Goster() {
+  if (!rsSozlesme || !rsSozlesme->SatirVar()) {
+    bosalt();
+    KontrolText(false);
+    KontrolButon(QStringLiteral("Bos"));
+  } else {
+    const db::Kayitlar& kayit = *rsSozlesme;
+    const auto alan = [&kayit](const char* ad) { return kayit.Fields(QString::fromLatin1(ad)); };
+    // Whatever the record says: the worksheet always computes.
+    Hesapla = true;
+    HesaplaKilit();
+
+    txtTarih->setText(Genel::TarihEkran(alan("Tarih")));
+    txtTutar->setText(faiz::ParaYazisi(alan("Tutar").toDouble()));
+    txtFaizOran->setText(contract::SayiMetni(alan("FaizOran")));
+    const QVariant masraf = alan("Masraf");
+    txtMasraf->setText(db::NullMu(masraf) ? QString() : faiz::ParaYazisi(masraf.toDouble()));
+    SozlesmeID = 1;
+
+    const QVariant ilave = alan("ilaveGun");
+    ilaveGun = db::NullMu(ilave) ? 0 : ilave.toLongLong();
+    txtValor->setText(faiz::ValorYazisi(ilaveGun));
+
+    txtMusteriNo->setText(contract::SayiMetni(alan("MusteriNo")));
+    MusteriBul();
+
+    const QVariant faizTutar = alan("FaizTutar");
+    if (!db::NullMu(faizTutar)) {
+      txtFaizTutar->setText(faiz::ParaYazisi(faizTutar.toDouble()));
+      Odenecek = alan("Tutar").toDouble() - faizTutar.toDouble();
+      txtOdenecek->setText(faiz::ParaYazisi(Odenecek));
+      lblFaizGun->clear();
+    }
+
+    KontrolText(false);
+    KontrolButon(QStringLiteral("Normal"));
+    DetayAc();
+  }
+  TutarHesap();
+}
+
+void frmHesap::bosalt() {
+  // The scratch record and its lines go together, before anything on screen
+  // changes: when the engine refuses, the calculation stays as it was.
+  {
+    db::Islem islem(Genel::Baglanti);
+    Genel::Baglanti.Calistir(QStringLiteral("DELETE FROM Hesap"));
+    Genel::Baglanti.Calistir(QStringLiteral("DELETE FROM HesapDetay"));
+    islem.Onayla();
+  }
+  if (rsSozlesme) rsSozlesme->Requery();
+  for (QLineEdit* k : {txtTarih, txtTutar, txtFaizTutar, txtFaizOran, txtOdenecek, txtVergiProv})
+    k->clear();
+  lblFaizGun->clear();
+  SozlesmeID = 0;
+  ilaveGun = Genel::IlaveGun;
+  Hesapla = Genel::Hesapla;
+  HesaplaKilit();
+  txtValor->setText(faiz::ValorYazisi(ilaveGun));
+  DetayDuzAc();
+}
+
+void frmHesap::KontrolText(bool) {
+  // Open for typing at all times, the customer as well.
+  for (QWidget* w : std::initializer_list<QWidget*>{txtTarih, txtFaizOran, txtValor, txtMasraf,
+                                                    txtTutar, txtFaizTutar, txtVergiProv,
+                                                    txtOdenecek, txtVade, txtGun, txtMeblag, cmbAd})
+    w->setEnabled(true);
+}
+
+void frmHesap::KontrolButon(const QString&) {
+  for (QWidget* w : std::initializer_list<QWidget*>{cmdNew, cmdBordro, cmdDetayEkle, cmdVazgec})
+    w->setEnabled(true);
+  Gorunum(true);
+  cmdDetaySil->setVisible(false);
+}
+
+void frmHesap::Gorunum(bool) {
+  for (QWidget* w : std::initializer_list<QWidget*>{
+           txtTarih, txtFaizOran, txtValor, txtMasraf, txtTutar, txtFaizTutar, txtVergiProv,
+           txtOdenecek, frmCek, txtVade, txtGun, txtMeblag, cmdDetayEkle, cmdVazgec, dGridDetay,
+           cmdCekDuzelt, cmdBordro})
+    w->setVisible(true);
+  for (QLabel* l : etiketler_) l->setVisible(true);
+}
+
+void frmHesap::HesaplaKilit() {
+  contract::HesaplaKilitUygula(Hesapla, txtTutar, txtFaizTutar, txtOdenecek);
+}
+
+// --- the customer
+
+void frmHesap::MusteriBul() {
+  contract::MusteriBul(rsMusteri, musteriler_, cmbAd, txtMusteriNo->text());
+}
+
+void frmHesap::cmbAd_GotFocus() {
+  // The contract screen hides its contract here; the worksheet shows all.
+  if (musteriBazinda_) Gorunum(false);
+}
+
+bool frmHesap::cmbAd_Validate() {
+  // Opening its own list is no leaving.
+  if (QApplication::activePopupWidget() || !Ayriliyor(cmbAd)) return true;
+  return contract::MusteriSecimi(cmbAd, musteriler_, txtMusteriNo, KayitDurum == 0);
+}
+
+// --- fields
+
+void frmHesap::txtTarih_GotFocus() {
+  if (txtTarih->text().isEmpty()) txtTarih->setText(Genel::TarihYaz(QDate::currentDate()));
+}
+
+bool frmHesap::txtTarih_Validate() { return !Ayriliyor(txtTarih) || ekran::TarihDuzelt(txtTarih); }
+
+bool frmHesap::txtValor_Validate() {
+  if (!Ayriliyor(txtValor)) return true;
+  if (const auto yeni = faiz::ValorAlani(txtValor->text())) ilaveGun = *yeni;
+  return true;
+}
+
+bool frmHesap::txtMasraf_Validate() {
+  if (!Ayriliyor(txtMasraf)) return true;
+  if (!contract::TutarKontrol(txtMasraf, false)) return false;
+  // The one field whose change shows at once.
+  TutarHesap();
+  return true;
+}
+
+bool frmHesap::eventFilter(QObject* o, QEvent* e) {
+  if (e->type() == QEvent::FocusIn &&
+      static_cast<QFocusEvent*>(e)->reason() != Qt::PopupFocusReason) {
+    if (o == cmbAd) cmbAd_GotFocus();
+    if (o == txtTarih) txtTarih_GotFocus();
+  }
+  return ekran::Form::eventFilter(o, e);
+}
+
+// --- totals
+
+void frmHesap::TutarHesap() {
+  faiz::Girdi girdi;
+  girdi.Tarih = Genel::TarihOku(txtTarih->text());
+  girdi.FaizOran = faiz::OranDegeri(txtFaizOran->text());
+  girdi.ilaveGun = ilaveGun;
+  girdi.Hesapla = Hesapla;
+  girdi.HaftaSonu = Genel::HaftaSonu;
+  girdi.OrtalamaGun = Genel::OrtalamaGun;
+  double masraf = 0;
+  Genel::SayiOkuDene(txtMasraf->text(), masraf);  // empty, or refused on leaving: no fee
+  girdi.Masraf = masraf;
+
+  const faiz::Sonuc sonuc = faiz::TutarHesap(girdi, contract::FaizSatirlari(rsDetay));
+  DetaySayisi = sonuc.DetaySayisi;
+  if (sonuc.GunYazisi) GunYazisi = *sonuc.GunYazisi;
+  if (sonuc.OrtGun) Genel::OrtGun = *sonuc.OrtGun;
+  if (sonuc.txtTutar) txtTutar->setText(*sonuc.txtTutar);
+  if (sonuc.txtFaizTutar) txtFaizTutar->setText(*sonuc.txtFaizTutar);
+  if (sonuc.txtVergiProv) txtVergiProv->setText(*sonuc.txtVergiProv);
+  if (sonuc.TahsilMasrafi) TahsilMasrafi = *sonuc.TahsilMasrafi;
+  if (sonuc.BMVergisi) BMVergisi = *sonuc.BMVergisi;
+  if (sonuc.txtOdenecek) txtOdenecek->setText(*sonuc.txtOdenecek);
+  if (sonuc.Odenecek) Odenecek = *sonuc.Odenecek;
+  if (sonuc.lblFaizGun) lblFaizGun->setText(*sonuc.lblFaizGun);
+
+  // The set stands behind its last row: no line is taken in until the clerk
+  // picks one in the grid.
+  rsDetay.Move(rsDetay.RecordCount());
+  dGridDetay->selectionModel()->clear();
+}
+
+// --- a new calculation and saving it
+
+void frmHesap::cmdNew_Click() {
+  if (txtMusteriNo->text().isEmpty() && musteriBazinda_) {
+    mesaj::Kritik(QStringLiteral("Önce Bir Müşteri Seçmelisiniz"), QStringLiteral("Giriş Hatası"));
+    cmbAd->setFocus();
+    return;
+  }
+  // Wiped first, without a question: when the engine fails there, the
+  // screen stays as it was. The customer stays.
+  bosalt();
+  CekBosalt();
+  KayitDurum = 2;
+  DetayDurum = 3;
+  DetaySayisi = 0;
+  // A line that was taken in is gone with the rest.
+  cmdDetayEkle->setText(QStringLiteral("Ekle"));
+  cmdDetaySil->hide();
+  txtTarih->setFocus();
+}
+
+bool frmHesap::HesapKaydet() {
+  const auto hatali = [](QLineEdit* kutu, const QString& metin) {
+    mesaj::Kritik(metin, QStringLiteral("Hatalı Giriş"));
+    kutu->setFocus();
+    return false;
+  };
+  if (!Genel::TarihOku(txtTarih->text()).isValid())
+    return hatali(txtTarih, QStringLiteral("Lütfen Tarih Bilgisini Doldurun"));
+  if (!Genel::SayiMi(txtFaizOran->text()))
+    return hatali(txtFaizOran, QStringLiteral("Lütfen Faiz Oranı Bilgisini Girin"));
+  KayitDurum = 2;
+  try {
+    HesapYaz();
+    if (rsSozlesme)
+      rsSozlesme->Requery();
+    else
+      rsSozlesme = Genel::Baglanti.Sorgu(QStringLiteral("SELECT * FROM Hesap ORDER BY Tarih"));
+    rsSozlesme->MoveFirst();
+    Goster();
+    KayitDurum = 0;
+    return true;
+  } catch (const db::Hata& h) {
+    mesaj::Kritik(contract::KayitHataMetni() + QLatin1Char('\n') + h.metin(),
+                  QStringLiteral("Hata"));
+  } catch (const contract::Red& r) {
+    mesaj::Kritik(contract::KayitHataMetni() + QLatin1Char('\n') + r.neden, QStringLiteral("Hata"));
+  }
+  return false;
+}
+
+void frmHesap::HesapYaz() {
+  const QVariant tarih = Genel::TarihSql(txtTarih->text());
+  // The words are those of the payable amount, or with Hesapla off of the
+  // amount as typed.
+  if (Hesapla)
+    TutarHesap();
+  else
+    Odenecek = contract::TutarOku(txtTutar->text(), QStringLiteral("Tutar"));
+  const QString yaziyla = Odenecek > 0 ? Genel::YaziyaCevir(Odenecek) : QStringLiteral("Sıfır");
+  SozlesmeID = 1;
+
+  // Every value is read before anything is written. A calculation needs a
+  // customer: without one its bordro has nobody to name, and the save is
+  // refused as the contract's is.
+  const qint64 musteri = contract::MusteriNoOku(txtMusteriNo->text());
+  const double tutar = contract::TutarOku(txtTutar->text(), QStringLiteral("Tutar"));
+  double faizOran = 0;
+  Genel::SayiOkuDene(txtFaizOran->text(), faizOran);  // checked before
+  const double faizTutar = contract::TutarOku(txtFaizTutar->text(), QStringLiteral("Faiz Tutar"));
+  const double masraf = contract::TutarOku(txtMasraf->text(), QStringLiteral("Provizyon"));
+
+  db::Islem islem(Genel::Baglanti);
+  Genel::Baglanti.Calistir(QStringLiteral("DELETE FROM Hesap"));
+  Genel::Baglanti.Calistir(
+      QStringLiteral("INSERT INTO Hesap(SozlesmeSeri, SozlesmeNo, SozlesmeID, MusteriNo, Tarih, "
+                     "Tutar, FaizOran, FaizTutar, Masraf, Yaziyla, Gun, ilaveGun) "
+                     "VALUES (?, 1, 1, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+      {Genel::SozlesmeSeri, musteri, tarih, tutar, faizOran, faizTutar, masraf, yaziyla, GunYazisi,
+       ilaveGun});
+  islem.Onayla();
+}
+
+void frmHesap::HesapDuzelt() {
+  if (!rsSozlesme || !rsSozlesme->SatirVar()) return;
+  KayitDurum = 1;
+  txtTarih->setFocus();
+}
+
+// --- the lines
+
+void frmHesap::DetayAc() {
+  rsDetay =
+      Genel::Baglanti.Sorgu(contract::DetayIzgaraSorgusu(QStringLiteral("HesapDetay"), false),
+                            contract::DetayIzgaraDegerleri(txtTarih->text(), ilaveGun, SozlesmeID));
+  DetayBagla();
+}
+
+void frmHesap::DetayDuzAc() {
+  rsDetay = Genel::Baglanti.Sorgu(QStringLiteral("SELECT * FROM HesapDetay"));
+  DetayBagla();
+}
+
+void frmHesap::DetayBagla() {
+  dGridDetay->Bagla(&rsDetay);
+  // All columns of the contract's grid are bound; the worksheet's papers
+  // have no drawer, bank or number, and Durum (collected or not) means
+  // nothing for a paper that was never taken in: those stay hidden.
+  static constexpr contract::IzgaraSutunu kSutunlar[] = {{"GirisNo", 6, false},
+                                                         {"SozlesmeNo", 8, false},
+                                                         {"Tip", 6},
+                                                         {"Vadesi", 12},
+                                                         {"Gunu", 6},
+                                                         {"Meblag", 16},
+                                                         {"Kesideci", 0, false},
+                                                         {"Banka", 12, false},
+                                                         {"Sube", 12, false},
+                                                         {"HesapNo", 11, false},
+                                                         {"CekNo", 10, false},
+                                                         {"Durum", 6, false}};
+  contract::DetaySutunlari(dGridDetay, rsDetay, kSutunlar);
+}
+
+void frmHesap::CekBosalt() {
+  txtGun->setText(QStringLiteral("0"));
+  txtVade->clear();
+  txtMeblag->clear();
+  DetayDurum = 3;
+}
+
+bool frmHesap::DetayKontrol() {
+  if (!contract::DetayLimitiKontrol(DetaySayisi, DetayDurum)) return false;
+  if (txtGun->text().isEmpty()) txtGun->setText(QStringLiteral("0"));
+  return contract::VadeGunMeblagKontrol(txtVade, txtGun, txtMeblag);
+}
+
+void frmHesap::DetayYaz() {
+  const QVariant vade = Genel::TarihSql(txtVade->text());
+  const qint64 gun = contract::GunDegeri(txtGun->text());
+  const QString meblag = txtMeblag->text();
+  if (DetayDurum != 1) {
+    Genel::Baglanti.Calistir(
+        QStringLiteral("INSERT INTO HesapDetay(SozlesmeID, SozlesmeNo, Tip, Vadesi, Odenmesi, "
+                       "Gun, Meblag) VALUES (?, 1, ?, ?, ?, ?, ?)"),
+        {SozlesmeID, kCek, vade, vade, gun, Genel::SayiOku(meblag)});
+    return;
+  }
+  QString sql = QStringLiteral("UPDATE HesapDetay SET Tip = ?");
+  QVariantList degerler = {kCek};
+  if (!txtVade->text().isEmpty()) {
+    sql += QStringLiteral(", Vadesi = ?, Odenmesi = ?");
+    degerler << vade << vade;
+  }
+  sql += QStringLiteral(", Gun = ?");
+  degerler << gun;
+  if (!meblag.isEmpty()) {
+    sql += QStringLiteral(", Meblag = ?");
+    degerler << Genel::SayiOku(meblag);
+  }
+  sql += QStringLiteral(" WHERE GirisNo = ?");
+  degerler << GirisNo;
+  Genel::Baglanti.Calistir(sql, degerler);
+}
+
+void frmHesap::cmdDetayEkle_Click() {
+  if (!DetayKontrol()) return;
+  try {
+    // The calculation is stored before its line.
+    if (!HesapKaydet()) {
+      mesaj::Kritik(QStringLiteral("Bir Hata Oldu, Lütfen Tekrar Deneyiniz"),
+                    QStringLiteral("HATA"));
+      return;
+    }
+    DetayYaz();
+    DetayDuzAc();
+    cmdDetayEkle->setText(QStringLiteral("Ekle"));
+    CekBosalt();
+    TutarHesap();
+    cmdDetaySil->hide();
+    // The new totals are stored, and the next line can follow.
+    HesapKaydet();
+    HesapDuzelt();
+    txtVade->setFocus();
+  } catch (const db::Hata& h) {
+    mesaj::Kritik(contract::KayitHataMetni() + QLatin1Char('\n') + h.metin(),
+                  QStringLiteral("Hata Açıklaması"));
+  } catch (const Genel::SayiHatasi& h) {
+    mesaj::Kritik(
+        contract::KayitHataMetni() + QLatin1Char('\n') + h.metin + QStringLiteral(" Sayı Değil"),
+        QStringLiteral("Hata Açıklaması"));
+  }
+}
+
+void frmHesap::SatiriAl() {
+  txtVade->setText(Genel::TarihEkran(rsDetay.Fields(QStringLiteral("Vadesi"))));
+  txtGun->setText(rsDetay.Metin(QStringLiteral("Gun")));
+  const QVariant meblag = rsDetay.Fields(QStringLiteral("Meblag"));
+  txtMeblag->setText(db::NullMu(meblag) ? QString() : contract::MeblagYazisi(meblag.toDouble()));
+  GirisNo = rsDetay.Fields(QStringLiteral("GirisNo")).toInt();
+  cmdDetayEkle->setText(QStringLiteral("Kaydet"));
+  cmdDetaySil->setVisible(true);
+  DetayDurum = 1;
+  txtVade->setFocus();
+}
+
+void frmHesap::dGridDetay_DblClick() {
+  if (Genel::SadeceGoster || !rsDetay.SatirVar()) return;
+  SatiriAl();
+}
+
+void frmHesap::cmdCekDuzelt_Click() {
+  HesapDuzelt();
+  if (!Genel::SadeceGoster && rsDetay.SatirVar() && KayitDurum == 1) SatiriAl();
+}
+
+void frmHesap::cmdVazgec_Click() {
+  const bool alinmis = DetayDurum == 1;
+  CekBosalt();
+  if (alinmis) {
+    cmdDetayEkle->setText(QStringLiteral("Ekle"));
+    cmdDetaySil->hide();
+  }
+  txtVade->setFocus();
+}
+
+void frmHesap::cmdDetaySil_Click() {
+  if (!mesaj::EvetMi(QStringLiteral("Kayıt Silinecek, Emin misiniz? "), QStringLiteral("Onay"),
+                     mesaj::Tur::Duz))
+    return;
+  try {
+    // The line taken into the entry, whichever row the grid stands on now.
+    Genel::Baglanti.Calistir(QStringLiteral("DELETE FROM HesapDetay WHERE GirisNo = ?"), {GirisNo});
+    DetayDuzAc();
+    cmdDetayEkle->setText(QStringLiteral("Ekle"));
+    CekBosalt();
+    TutarHesap();
+    HesapKaydet();
+    HesapDuzelt();
+    cmdDetaySil->hide();
+  } catch (const db::Hata& h) {
+    mesaj::Kritik(contract::KayitHataMetni() + QLatin1Char('\n') + h.metin(),
+                  QStringLiteral("Hata Açıklaması"));
+  }
+}
+
+// --- the bordro
+
+void frmHesap::cmdBordro_Click() {
+  HesapKaydet();  // its result isn't looked at: the bordro shows what is stored
+  const db::Kayitlar veri = contract::HesapBordroVerisi(BMVergisi, TahsilMasrafi, KomisyonTutar);
+  if (veri.RecordCount() == 0) {
+    mesaj::Bilgi(QStringLiteral("Bordro Dökebilmek için Fatura Bilgilerini Girmeniz Gerekmektedir"),
+                 QStringLiteral("UYARI"));
+    return;
+  }
+  contract::HesapBordroEtiketleri e;
+  e.Musteri = cmbAd->currentText();
+  e.FaizOran = txtFaizOran->text();
+  e.Tarih = txtTarih->text();
+  e.Odenecek = txtOdenecek->text();
+  e.OrtGun = Genel::OrtGun;
+  rapor::Goster(contract::rptHesap(veri, e), this);
+}
+
+namespace contract {
+
+void HesapEkraniKaydet() {
+  ekran::Kaydet(QStringLiteral("frmHesap"), [] { return new frmHesap; });
+}
+
+}  // namespace contract
