@@ -1,10 +1,14 @@
 #include "transfer/MaliyeAktarim.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QProcess>
 #include <QSaveFile>
+#include <QTemporaryFile>
+#include <future>
 
 #include "core/Genel.h"
+#include "db/Imlec.h"
 #include "transfer/MaliyeDosyasi.h"
 #include "transfer/MaliyeSema.h"
 
@@ -98,45 +102,89 @@ class Aktarim {
 
   Sonuc Calistir() {
     QDir().mkpath(i_.klasor);
-    const QString dosya = QDir(i_.klasor).filePath(QString::fromLatin1(kDosyaAdi));
+    const QDir klasor(i_.klasor);
+    const QString dosya = klasor.filePath(QString::fromLatin1(kDosyaAdi));
     QSaveFile f(dosya);
     Ac(f);
     const QVariant bas = Sql(i_.bas), son = Sql(i_.son);
-    s_.satirlar = b_.Sorgu(
-        AnaSorgu(), {v_.carpan, v_.carpan, bas, son, i_.limit, v_.carpan, bas, son, i_.limit});
-    s_.kayitToplam = s_.satirlar.RecordCount();
-    Toplamlar(bas, son);
+    // The totals are read beside the rows, on a connection of their own
+    // where there can be one; their failure comes out at get().
+    std::future<void> toplamlar;
+    if (AyriOkunur(b_))
+      toplamlar = std::async(std::launch::async, [this, bas, son] {
+        db::Baglanti ayri;
+        ayri.Ac(b_.Yol(), db::Baglanti::Kip::SadeceOku);
+        Toplamlar(ayri, bas, son);
+      });
+    else
+      Toplamlar(b_, bas, son);
+    const aktarim::Ofis ofis = Ofis();  // its faults stand first in the list
 
-    MaliyeYazici y(f, v_);
-    y.Bas(Ofis(), BilgiDonem(), i_.bugun.toString(QStringLiteral("yyyyMMdd")), s_.kayitToplam,
-          s_.odverToplam, s_.odtahToplam);
+    // The head counts the rows, and they are counted only once the last is
+    // written: they go to a scratch file beside the transfer file first, one
+    // at a time, and follow the head there afterwards.
+    QTemporaryFile govde(klasor.filePath(QStringLiteral("Velmora.XXXXXX")));
+    if (!govde.open())
+      throw DosyaHatasi(govde.fileName() + QStringLiteral(": ") + govde.errorString());
+    {
+      MaliyeYazici y(govde, v_);
+      Satirlar(y);
+      if (s_.yapilan > 0) y.KayitlarSon();
+      y.Son();
+      if (!y.Tamam())
+        throw DosyaHatasi(govde.fileName() + QStringLiteral(": ") + govde.errorString());
+    }
+    s_.kayitToplam = s_.yapilan;
+    if (g_.yazildi) g_.yazildi(s_.yapilan);
+    if (toplamlar.valid()) toplamlar.get();
+
+    {
+      MaliyeYazici y(f, v_);
+      y.Bas(ofis, BilgiDonem(), i_.bugun.toString(QStringLiteral("yyyyMMdd")), s_.kayitToplam,
+            s_.odverToplam, s_.odtahToplam);
+      if (!y.Bosalt()) throw DosyaHatasi(dosya + QStringLiteral(": ") + f.errorString());
+    }
+    Ekle(f, govde);
     s_.ozet = QStringLiteral("Ödünç Tutar : ") + Genel::SayiYaz(s_.odverToplam, v_.basamak) +
               QStringLiteral("\r\nTahsil Tutar:  ") + Genel::SayiYaz(s_.odtahToplam, v_.basamak);
-    if (s_.kayitToplam > 0) {
-      y.KayitlarBas();
-      Satirlar(y);
+    if (s_.yapilan > 0)
       s_.ozet += QStringLiteral("\r\n Aktarılan Kayıt: ") + Genel::SayiYaz(s_.yapilan, 0);
-      y.KayitlarSon();
-    }
-    y.Son();
-    if (!y.Tamam()) throw DosyaHatasi(dosya + QStringLiteral(": ") + f.errorString());
     HataListesi();
     if (!f.commit()) throw DosyaHatasi(dosya + QStringLiteral(": ") + f.errorString());
     s_.dosya = dosya;
     s_.semaHatasi = SemayaUygunMu(dosya, v_);
-    s_.satirlar.MoveFirst();
     return std::move(s_);
   }
 
  private:
-  void Toplamlar(const QVariant& bas, const QVariant& son) {
+  // The rows written so far follow the head.
+  static void Ekle(QSaveFile& f, QTemporaryFile& govde) {
+    QByteArray parca(1 << 16, Qt::Uninitialized);
+    if (!govde.seek(0))
+      throw DosyaHatasi(govde.fileName() + QStringLiteral(": ") + govde.errorString());
+    for (;;) {
+      const qint64 n = govde.read(parca.data(), parca.size());
+      if (n < 0) throw DosyaHatasi(govde.fileName() + QStringLiteral(": ") + govde.errorString());
+      if (n == 0) return;
+      if (f.write(parca.constData(), n) != n)
+        throw DosyaHatasi(f.fileName() + QStringLiteral(": ") + f.errorString());
+    }
+  }
+
+  // A second connection sees what the first has written: the file is one on
+  // the disk and no transaction of the first is open.
+  static bool AyriOkunur(const db::Baglanti& b) {
+    return !b.IslemIcinde() && QFileInfo(b.Yol()).isFile();
+  }
+
+  void Toplamlar(db::Baglanti& b, const QVariant& bas, const QVariant& son) {
     const QVariantList d = {v_.carpan, bas, son, i_.limit};
     s_.odverToplam =
-        Toplam(b_,
+        Toplam(b,
                QStringLiteral("SELECT SUM(Tutar * ?) FROM Sozlesme WHERE Tarih BETWEEN ? AND ?"
                               " AND Tutar >= ? AND Doviz = 'TRL'"),
                d) +
-        Toplam(b_,
+        Toplam(b,
                QStringLiteral("SELECT SUM(Kur.Kur * S.Tutar * ?) FROM Sozlesme S INNER JOIN Kur"
                               " ON S.Tarih = Kur.Tarih AND S.Doviz = Kur.Doviz"
                               " WHERE S.Tarih BETWEEN ? AND ? AND S.Tutar >= ?"
@@ -144,7 +192,7 @@ class Aktarim {
                d);
     // By due date and without a join: the figures of earlier filings were
     // made so, though the rows go by the day of payment.
-    s_.odtahToplam = Toplam(b_,
+    s_.odtahToplam = Toplam(b,
                             QStringLiteral("SELECT SUM(Meblag * ?) FROM SozlesmeDetay WHERE "
                                            "Vadesi BETWEEN ? AND ? AND Meblag >= ?"),
                             d);
@@ -198,8 +246,8 @@ class Aktarim {
     return d.metin;
   }
 
-  Kisi KisiOku(const db::Kayitlar& rs) {
-    const auto m = [&rs](int c) { return Metin(rs.Fields(c)); };
+  Kisi KisiOku(const db::Imlec& rs) {
+    const auto m = [&rs](int c) { return rs.Metin(c); };
     const QString kim =
         m(cMusteriNo) + QStringLiteral(" Numaralı ") + m(cSoyadi) + QLatin1Char(' ') + m(cAdi);
     Kisi k;
@@ -240,10 +288,10 @@ class Aktarim {
     if (g_.kurUyarisi) g_.kurUyarisi(metin);
   }
 
-  void Odver(MaliyeYazici& y, const db::Kayitlar& rs) {
-    const QString tarih = Metin(rs.Fields(cTarih));
+  void Odver(MaliyeYazici& y, const db::Imlec& rs) {
+    const QString tarih = rs.Metin(cTarih);
     const QString sozTar = GunYaz(tarih);
-    const QString sozNo = SozNo(Metin(rs.Fields(cSozlesmeSeri)), Metin(rs.Fields(cSozlesmeNo)));
+    const QString sozNo = SozNo(rs.Metin(cSozlesmeSeri), rs.Metin(cSozlesmeNo));
     const QVariant doviz = rs.Fields(cDoviz);
     const QVariant tutar = rs.Fields(cTutar), faiz = rs.Fields(cFaizTutar);
     // A contract without a currency goes down the lira path.
@@ -268,20 +316,19 @@ class Aktarim {
   }
 
   void Satirlar(MaliyeYazici& y) {
-    db::Kayitlar& rs = s_.satirlar;
+    db::Imlec rs(b_, AnaSorgu(), AnaSorguDegerleri(i_));
     QString onceki;
-    bool ilk = true;
-    for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext()) {
-      const QString no = Metin(rs.Fields(cMusteriNo));
-      if (ilk || no != onceki) {
+    while (rs.Ilerle()) {
+      const QString no = rs.Metin(cMusteriNo);
+      if (s_.yapilan == 0) y.KayitlarBas();
+      if (s_.yapilan == 0 || no != onceki) {
         y.Musteri(KisiOku(rs));
         onceki = no;
-        ilk = false;
       }
       if (rs.Fields(cTIP).toInt() == 1)
         Odver(y, rs);
       else
-        y.Odtah(GunYaz(Metin(rs.Fields(cTarih))), Tutar(rs.Fields(cTutar)));
+        y.Odtah(GunYaz(rs.Metin(cTarih)), Tutar(rs.Fields(cTutar)));
       ++s_.yapilan;
       if (g_.ilerleme) g_.ilerleme(s_.yapilan);
     }
@@ -347,40 +394,89 @@ Sonuc Hazirla(db::Baglanti& b, const Istek& istek, const Geri& geri) {
   return Aktarim(b, istek, geri).Calistir();
 }
 
+namespace {
+
+// One line of the control list: every value as text followed by a tab, then
+// CR LF. `deger(c)` gives the value of column c.
+template <class Deger>
+void KontrolSatiri(QByteArray& out, int sutunlar, int tarih, Deger deger) {
+  const QChar tab = QLatin1Char('\t');
+  QString satir;
+  for (int c = 0; c < sutunlar; ++c) {
+    const QVariant v = deger(c);
+    if (db::NullMu(v))
+      ;
+    else if (c == tarih)
+      satir += Genel::TarihEkran(v);
+    else if (v.typeId() == QMetaType::Double)
+      satir +=
+          QString::number(v.toDouble(), 'g', 15).replace(QLatin1Char('.'), Genel::Bolge().ondalik);
+    else
+      satir += v.toString();
+    satir += tab;
+  }
+  out += satir.toUtf8() + "\r\n";
+}
+
+void BasliklarSatiri(QByteArray& out, const QStringList& alanlar) {
+  QString satir;
+  for (const QString& ad : alanlar) satir += ad + QLatin1Char('\t');
+  out += satir.toUtf8() + "\r\n";
+}
+
+QSaveFile* KontrolDosyasi(QSaveFile& f, const QString& klasor) {
+  QDir().mkpath(klasor);
+  f.setFileName(QDir(klasor).filePath(QString::fromLatin1(kKontrolDosyasi)));
+  return Ac(f);
+}
+
+}  // namespace
+
+QVariantList AnaSorguDegerleri(const Istek& i) {
+  const double carpan = VaryantSec(i.son.year()).carpan;
+  const QVariant bas = Sql(i.bas), son = Sql(i.son);
+  return {carpan, carpan, bas, son, i.limit, carpan, bas, son, i.limit};
+}
+
+db::Kayitlar KontrolSatirlari(db::Baglanti& b, const Istek& i) {
+  return b.Sorgu(AnaSorgu(), AnaSorguDegerleri(i));
+}
+
 QByteArray KontrolListesi(const db::Kayitlar& rs) {
   QByteArray out;
   if (rs.RecordCount() == 0) return out;
-  const QChar tab = QLatin1Char('\t');
-  QString satir;
-  for (const QString& ad : rs.Alanlar()) satir += ad + tab;
-  out += satir.toUtf8() + "\r\n";
+  BasliklarSatiri(out, rs.Alanlar());
   const int tarih = rs.AlanNo(QStringLiteral("Tarih"));
-  for (int r = 0; r < rs.RecordCount(); ++r) {
-    satir.clear();
-    for (int c = 0; c < rs.AlanSayisi(); ++c) {
-      const QVariant v = rs.Deger(r, c);
-      QString t;
-      if (db::NullMu(v))
-        t.clear();
-      else if (c == tarih)
-        t = Genel::TarihEkran(v);
-      else if (v.typeId() == QMetaType::Double)
-        t = QString::number(v.toDouble(), 'g', 15)
-                .replace(QLatin1Char('.'), Genel::Bolge().ondalik);
-      else
-        t = v.toString();
-      satir += t + tab;
-    }
-    out += satir.toUtf8() + "\r\n";
-  }
+  for (int r = 0; r < rs.RecordCount(); ++r)
+    KontrolSatiri(out, rs.AlanSayisi(), tarih, [&](int c) { return rs.Deger(r, c); });
   return out;
 }
 
 QString KontrolListesiYaz(const db::Kayitlar& rs, const QString& klasor) {
-  QDir().mkpath(klasor);
-  QSaveFile f(QDir(klasor).filePath(QString::fromLatin1(kKontrolDosyasi)));
-  Ac(f);
+  QSaveFile f;
+  KontrolDosyasi(f, klasor);
   Kaydet(f, KontrolListesi(rs));
+  return f.fileName();
+}
+
+QString KontrolListesiYaz(db::Baglanti& b, const Istek& i, const QString& klasor) {
+  QSaveFile f;
+  KontrolDosyasi(f, klasor);
+  db::Imlec rs(b, AnaSorgu(), AnaSorguDegerleri(i));
+  const int tarih = rs.AlanNo(QStringLiteral("Tarih"));
+  QByteArray parca;
+  bool ilk = true;
+  while (rs.Ilerle()) {
+    if (ilk) BasliklarSatiri(parca, rs.Alanlar());
+    ilk = false;
+    KontrolSatiri(parca, rs.AlanSayisi(), tarih, [&](int c) { return rs.Fields(c); });
+    if (parca.size() >= (1 << 16)) {
+      if (f.write(parca) != parca.size())
+        throw DosyaHatasi(f.fileName() + QStringLiteral(": ") + f.errorString());
+      parca.clear();
+    }
+  }
+  Kaydet(f, parca);
   return f.fileName();
 }
 

@@ -182,7 +182,7 @@ TEST_F(MaliyeDisk, KontrolListesiSekmeliTumSutunlar) {
       "VALUES (1, '2005-03-01', '2005-03-02', 20000, 'TRL')");
   QTemporaryDir d;
   const aktarim::Sonuc s = aktarim::Hazirla(Genel::Baglanti, Istek(d.path()));
-  const QString yol = aktarim::KontrolListesiYaz(s.satirlar, d.path());
+  const QString yol = aktarim::KontrolListesiYaz(Genel::Baglanti, Istek(d.path()), d.path());
   const QByteArray beklenen =
       "VergiKimlikNo\tMusteriNo\tSoyadi\tAdi\tBabaAdi\tAdres\tIlce\tPostaKod\tIl_Ad\tIlKod\t"
       "TCKimlikNo\tVekilDurum\tVekilVergiKimlik\tVekilSoyadi\tVekilAdi\tUyruk\tHukukiDurum\t"
@@ -190,8 +190,9 @@ TEST_F(MaliyeDisk, KontrolListesiSekmeliTumSutunlar) {
       "12\t4\tTAB\tLI\tŞÜ\t\t\t\t\t\t6\t\t\t\t\t\t1\t\t1\tTRL\t03.02.2005\t12345,5\t10\tA\t7\t\r\n"
       "12\t4\tTAB\tLI\tŞÜ\t\t\t\t\t\t6\t\t\t\t\t\t1\t\t2\tTRL\t02.03.2005\t20000\t0\t \t \t\r\n";
   EXPECT_EQ(Oku(yol), beklenen);
-  // A second write replaces the file with the same content.
-  aktarim::KontrolListesiYaz(s.satirlar, d.path());
+  // A second write replaces the file with the same content; the rows read
+  // into a record set give the same bytes as the rows read one by one.
+  aktarim::KontrolListesiYaz(aktarim::KontrolSatirlari(Genel::Baglanti, Istek(d.path())), d.path());
   EXPECT_EQ(Oku(yol), beklenen);
 }
 
