@@ -77,6 +77,10 @@ struct Geri {
 // the same of the lines, as bound values (AnaSorguDegerleri).
 QString AnaSorgu();
 QVariantList AnaSorguDegerleri(const Istek& istek);
+// The rows of the main query without the customer's columns (its 2nd and
+// 18th to 24th), in its order, with the same values, and without the join
+// to the customer: the file is written from these, each customer read once.
+QString AkisSorgusu();
 
 // Runs the transfer on `b` and writes Velmora.xml (and, when there are
 // faults, HataliKayit.txt) into the request's folder, then checks the file
