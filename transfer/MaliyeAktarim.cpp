@@ -1,11 +1,15 @@
 #include "transfer/MaliyeAktarim.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 #include <QSaveFile>
 #include <QTemporaryFile>
+#include <condition_variable>
+#include <deque>
 #include <future>
+#include <mutex>
 
 #include "core/Genel.h"
 #include "db/Imlec.h"
@@ -110,6 +114,101 @@ QSaveFile* Ac(QSaveFile& f) {
   return &f;
 }
 
+// The schema check of the file in a thread of its own, while the rows are
+// written: it takes the pieces as they come, a few at a time, so that nothing
+// of the file is held. `bas` gives it the head once the head can be made.
+class Denetim {
+ public:
+  Denetim(const Varyant& v, const QString& ad, std::function<QByteArray()> bas)
+      : sonuc_(std::async(std::launch::async,
+                          [this, v, ad, bas = std::move(bas)] { return Calis(v, ad, bas); })) {}
+  ~Denetim() {
+    Kapat();
+    if (sonuc_.valid()) sonuc_.wait();
+  }
+  Denetim(const Denetim&) = delete;
+  Denetim& operator=(const Denetim&) = delete;
+
+  // The next piece; waits while the check is far behind.
+  void Ver(QByteArray parca) {
+    std::unique_lock k(m_);
+    yer_.wait(k, [this] { return kuyruk_.size() < kEnFazla || birak_; });
+    if (birak_) return;
+    kuyruk_.push_back(std::move(parca));
+    parca_.notify_one();
+  }
+  // No more pieces.
+  void Kapat() {
+    std::lock_guard k(m_);
+    bitti_ = true;
+    parca_.notify_one();
+  }
+  // The first fault, empty when the whole was valid.
+  QString Sonuc() {
+    Kapat();
+    return sonuc_.get();
+  }
+
+ private:
+  static constexpr std::size_t kEnFazla = 32;
+
+  QString Calis(const Varyant& v, const QString& ad, const std::function<QByteArray()>& bas) {
+    QByteArray ilk;
+    try {
+      ilk = bas();
+    } catch (...) {
+      // The run fails with the same fault; the rows need no waiting for.
+      std::lock_guard k(m_);
+      birak_ = true;
+      kuyruk_.clear();
+      yer_.notify_all();
+      return QString();
+    }
+    SemaAkisi sema(v, ad);
+    sema.Ekle(ilk);
+    for (;;) {
+      QByteArray parca;
+      {
+        std::unique_lock k(m_);
+        parca_.wait(k, [this] { return !kuyruk_.empty() || bitti_; });
+        if (kuyruk_.empty()) break;
+        parca = std::move(kuyruk_.front());
+        kuyruk_.pop_front();
+        yer_.notify_one();
+      }
+      sema.Ekle(parca);
+    }
+    return sema.Bitir();
+  }
+
+  std::mutex m_;
+  std::condition_variable parca_, yer_;
+  std::deque<QByteArray> kuyruk_;
+  bool bitti_ = false, birak_ = false;
+  std::future<QString> sonuc_;  // last: the thread starts once the rest is there
+};
+
+// The scratch file of the rows with the check beside it: every piece goes to
+// both.
+class Catal : public QIODevice {
+ public:
+  Catal(QIODevice& dosya, Denetim& denetim) : dosya_(dosya), denetim_(denetim) {
+    open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+  }
+
+ protected:
+  qint64 readData(char*, qint64) override { return -1; }
+  qint64 writeData(const char* p, qint64 n) override {
+    const qint64 yazilan = dosya_.write(p, n);
+    if (yazilan == n) denetim_.Ver(QByteArray(p, n));
+    return yazilan;
+  }
+
+ private:
+  QIODevice& dosya_;
+  Denetim& denetim_;
+};
+
 class Aktarim {
  public:
   Aktarim(db::Baglanti& b, const Istek& i, const Geri& g)
@@ -124,41 +223,47 @@ class Aktarim {
     const QVariant bas = Sql(i_.bas), son = Sql(i_.son);
     // The totals are read beside the rows, on a connection of their own
     // where there can be one; their failure comes out at get().
-    std::future<void> toplamlar;
+    std::shared_future<void> toplamlar;
     if (AyriOkunur(b_))
       toplamlar = std::async(std::launch::async, [this, bas, son] {
-        db::Baglanti ayri;
-        ayri.Ac(b_.Yol(), db::Baglanti::Kip::SadeceOku);
-        Toplamlar(ayri, bas, son);
-      });
+                    db::Baglanti ayri;
+                    ayri.Ac(b_.Yol(), db::Baglanti::Kip::SadeceOku);
+                    Toplamlar(ayri, bas, son);
+                  }).share();
     else
       Toplamlar(b_, bas, son);
     const aktarim::Ofis ofis = Ofis();  // its faults stand first in the list
 
     // The head counts the rows, and they are counted only once the last is
     // written: they go to a scratch file beside the transfer file first, one
-    // at a time, and follow the head there afterwards.
+    // at a time, and follow the head there afterwards. The schema check reads
+    // them as they are written, behind a head that counts 0 rows: the count
+    // is the one byte that differs from the file, and any count is a valid
+    // one, so the check says of the file what it says of what it read.
     QTemporaryFile govde(klasor.filePath(QStringLiteral("Velmora.XXXXXX")));
     if (!govde.open())
       throw DosyaHatasi(govde.fileName() + QStringLiteral(": ") + govde.errorString());
+    Denetim denetim(v_, dosya, [this, &ofis, toplamlar] {
+      if (toplamlar.valid()) toplamlar.get();
+      return Basi(ofis, 0);
+    });
     {
-      MaliyeYazici y(govde, v_);
+      Catal catal(govde, denetim);
+      MaliyeYazici y(catal, v_);
       Satirlar(y);
       if (s_.yapilan > 0) y.KayitlarSon();
       y.Son();
       if (!y.Tamam())
         throw DosyaHatasi(govde.fileName() + QStringLiteral(": ") + govde.errorString());
     }
+    denetim.Kapat();
     s_.kayitToplam = s_.yapilan;
     if (g_.yazildi) g_.yazildi(s_.yapilan);
     if (toplamlar.valid()) toplamlar.get();
 
-    {
-      MaliyeYazici y(f, v_);
-      y.Bas(ofis, BilgiDonem(), i_.bugun.toString(QStringLiteral("yyyyMMdd")), s_.kayitToplam,
-            s_.odverToplam, s_.odtahToplam);
-      if (!y.Bosalt()) throw DosyaHatasi(dosya + QStringLiteral(": ") + f.errorString());
-    }
+    const QByteArray basi = Basi(ofis, s_.kayitToplam);
+    if (f.write(basi) != basi.size())
+      throw DosyaHatasi(dosya + QStringLiteral(": ") + f.errorString());
     Ekle(f, govde);
     s_.ozet = QStringLiteral("Ödünç Tutar : ") + Genel::SayiYaz(s_.odverToplam, v_.basamak) +
               QStringLiteral("\r\nTahsil Tutar:  ") + Genel::SayiYaz(s_.odtahToplam, v_.basamak);
@@ -167,8 +272,21 @@ class Aktarim {
     HataListesi();
     if (!f.commit()) throw DosyaHatasi(dosya + QStringLiteral(": ") + f.errorString());
     s_.dosya = dosya;
-    s_.semaHatasi = SemayaUygunMu(dosya, v_);
+    s_.semaHatasi = denetim.Sonuc();
     return std::move(s_);
+  }
+
+ private:
+  // The lines of the file down to </protokol>.
+  QByteArray Basi(const aktarim::Ofis& ofis, int kayitSayisi) const {
+    QBuffer b;
+    b.open(QIODevice::WriteOnly);
+    {
+      MaliyeYazici y(b, v_);
+      y.Bas(ofis, BilgiDonem(), i_.bugun.toString(QStringLiteral("yyyyMMdd")), kayitSayisi,
+            s_.odverToplam, s_.odtahToplam);
+    }
+    return b.data();
   }
 
  private:

@@ -157,13 +157,14 @@ MaliyeYazici::~MaliyeYazici() { Bosalt(); }
 
 bool MaliyeYazici::Bosalt() {
   if (!tampon_.isEmpty() && cikis_.write(tampon_) != tampon_.size()) tamam_ = false;
-  tampon_.clear();
+  tampon_.resize(0);  // keeps its room
   return tamam_;
 }
 
 // Lines gather in a buffer and reach the device in large pieces.
 void MaliyeYazici::Ekle(QByteArrayView b) {
-  tampon_.append(b);
+  if (tampon_.capacity() < kTampon + 1024) tampon_.reserve(2 * kTampon);
+  tampon_.append(b.data(), b.size());
   if (tampon_.size() >= kTampon) Bosalt();
 }
 
