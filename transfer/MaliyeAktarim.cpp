@@ -1,10 +1,18 @@
 #include "transfer/MaliyeAktarim.h"
 
+#include <QBuffer>
 #include <QDir>
+#include <QFileInfo>
 #include <QProcess>
 #include <QSaveFile>
+#include <QTemporaryFile>
+#include <condition_variable>
+#include <deque>
+#include <future>
+#include <mutex>
 
 #include "core/Genel.h"
+#include "db/Imlec.h"
 #include "transfer/MaliyeDosyasi.h"
 #include "transfer/MaliyeSema.h"
 
@@ -12,11 +20,25 @@ namespace aktarim {
 
 namespace {
 
-// The columns of both SELECTs up to the type column.
+// The columns of both SELECTs up to the type column: the customer's.
 const char* const kSutunlar =
     " SELECT M.VergiKimlikNo, M.MusteriNo, M.Soyadi, M.Adi, M.BabaAdi, M.Adres, M.Ilce,"
     " M.PostaKod, M.Il_Ad, M.IlKod, M.TCKimlikNo, M.VekilDurum, M.VekilVergiKimlik,"
     " M.VekilSoyadi, M.VekilAdi, M.Uyruk, M.HukukiDurum";
+// The contracts of the period, and the collected lines.
+const char* const kSozlesmeler =
+    " , 1 AS TIP, S.Doviz, S.Tarih, S.Tutar * ? AS Tutar, S.FaizTutar * ? AS FaizTutar,"
+    " S.SozlesmeSeri, S.SozlesmeNo"
+    " FROM Musteri M INNER JOIN Sozlesme S ON M.MusteriNo = S.MusteriNo"
+    " WHERE S.Tarih BETWEEN ? AND ? AND S.Tutar >= ?";
+const char* const kOdenenler =
+    " , 2, SD.Doviz, SD.Odenmesi, SD.Meblag * ?, 0, ' ', ' '"
+    " FROM (Musteri M INNER JOIN Sozlesme S ON M.MusteriNo = S.MusteriNo)"
+    " INNER JOIN SozlesmeDetay SD ON S.SozlesmeID = SD.SozlesmeID"
+    " WHERE SD.Odenmesi BETWEEN ? AND ? AND SD.Meblag >= ?";
+
+// Columns of AkisSorgusu.
+enum Akis { aMusteriNo, aTIP, aDoviz, aTarih, aTutar, aFaizTutar, aSozlesmeSeri, aSozlesmeNo };
 
 }  // namespace
 
@@ -25,20 +47,28 @@ const char* const kSutunlar =
 // order (customer, type, date) goes by position: a compound query knows its
 // columns by the first SELECT's aliases only.
 QString AnaSorgu() {
-  return QString::fromLatin1(kSutunlar) +
-         QStringLiteral(
-             " , 1 AS TIP, S.Doviz, S.Tarih, S.Tutar * ? AS Tutar, S.FaizTutar * ? AS FaizTutar,"
-             " S.SozlesmeSeri, S.SozlesmeNo"
-             " FROM Musteri M INNER JOIN Sozlesme S ON M.MusteriNo = S.MusteriNo"
-             " WHERE S.Tarih BETWEEN ? AND ? AND S.Tutar >= ?"
-             " UNION") +
-         QString::fromLatin1(kSutunlar) +
-         QStringLiteral(
-             " , 2, SD.Doviz, SD.Odenmesi, SD.Meblag * ?, 0, ' ', ' '"
-             " FROM (Musteri M INNER JOIN Sozlesme S ON M.MusteriNo = S.MusteriNo)"
-             " INNER JOIN SozlesmeDetay SD ON S.SozlesmeID = SD.SozlesmeID"
-             " WHERE SD.Odenmesi BETWEEN ? AND ? AND SD.Meblag >= ?"
-             " ORDER BY 2, 18, 20");
+  return QLatin1String(kSutunlar) + QLatin1String(kSozlesmeler) + QStringLiteral(" UNION") +
+         QLatin1String(kSutunlar) + QLatin1String(kOdenenler) +
+         QStringLiteral(" ORDER BY 2, 18, 20");
+}
+
+// The customer's columns depend on the customer's number alone (the key of
+// Musteri), so the UNION merges the same rows, and the order is the same:
+// UNION orders by every column, the customer's ones tie within a customer,
+// and what decides after the date is the currency, the amounts, the series
+// and the number. Without the customer's columns and join the engine sorts
+// and seeks far less; the file reads each customer once, and leaves out the
+// rows of a customer that is missing, as the join does.
+QString AkisSorgusu() {
+  return QStringLiteral(
+      " SELECT S.MusteriNo, 1 AS TIP, S.Doviz, S.Tarih, S.Tutar * ? AS Tutar,"
+      " S.FaizTutar * ? AS FaizTutar, S.SozlesmeSeri, S.SozlesmeNo"
+      " FROM Sozlesme S WHERE S.Tarih BETWEEN ? AND ? AND S.Tutar >= ?"
+      " UNION"
+      " SELECT S.MusteriNo, 2, SD.Doviz, SD.Odenmesi, SD.Meblag * ?, 0, ' ', ' '"
+      " FROM Sozlesme S INNER JOIN SozlesmeDetay SD ON S.SozlesmeID = SD.SozlesmeID"
+      " WHERE SD.Odenmesi BETWEEN ? AND ? AND SD.Meblag >= ?"
+      " ORDER BY 1, 2, 4, 3, 5, 6, 7, 8");
 }
 
 namespace {
@@ -50,7 +80,7 @@ double Toplam(db::Baglanti& b, const QString& sql, const QVariantList& deger) {
   return db::NullMu(v) ? 0.0 : v.toDouble();
 }
 
-// Column positions of the main query.
+// Column positions of the main query, and of the customer's row (the first 17).
 enum Sutun {
   cVergiKimlikNo,
   cMusteriNo,
@@ -69,13 +99,6 @@ enum Sutun {
   cVekilAdi,
   cUyruk,
   cHukukiDurum,
-  cTIP,
-  cDoviz,
-  cTarih,
-  cTutar,
-  cFaizTutar,
-  cSozlesmeSeri,
-  cSozlesmeNo
 };
 
 QString Metin(const QVariant& v) { return db::NullMu(v) ? QString() : v.toString(); }
@@ -91,6 +114,101 @@ QSaveFile* Ac(QSaveFile& f) {
   return &f;
 }
 
+// The schema check of the file in a thread of its own, while the rows are
+// written: it takes the pieces as they come, a few at a time, so that nothing
+// of the file is held. `bas` gives it the head once the head can be made.
+class Denetim {
+ public:
+  Denetim(const Varyant& v, const QString& ad, std::function<QByteArray()> bas)
+      : sonuc_(std::async(std::launch::async,
+                          [this, v, ad, bas = std::move(bas)] { return Calis(v, ad, bas); })) {}
+  ~Denetim() {
+    Kapat();
+    if (sonuc_.valid()) sonuc_.wait();
+  }
+  Denetim(const Denetim&) = delete;
+  Denetim& operator=(const Denetim&) = delete;
+
+  // The next piece; waits while the check is far behind.
+  void Ver(QByteArray parca) {
+    std::unique_lock k(m_);
+    yer_.wait(k, [this] { return kuyruk_.size() < kEnFazla || birak_; });
+    if (birak_) return;
+    kuyruk_.push_back(std::move(parca));
+    parca_.notify_one();
+  }
+  // No more pieces.
+  void Kapat() {
+    std::lock_guard k(m_);
+    bitti_ = true;
+    parca_.notify_one();
+  }
+  // The first fault, empty when the whole was valid.
+  QString Sonuc() {
+    Kapat();
+    return sonuc_.get();
+  }
+
+ private:
+  static constexpr std::size_t kEnFazla = 32;
+
+  QString Calis(const Varyant& v, const QString& ad, const std::function<QByteArray()>& bas) {
+    QByteArray ilk;
+    try {
+      ilk = bas();
+    } catch (...) {
+      // The run fails with the same fault; the rows need no waiting for.
+      std::lock_guard k(m_);
+      birak_ = true;
+      kuyruk_.clear();
+      yer_.notify_all();
+      return QString();
+    }
+    SemaAkisi sema(v, ad);
+    sema.Ekle(ilk);
+    for (;;) {
+      QByteArray parca;
+      {
+        std::unique_lock k(m_);
+        parca_.wait(k, [this] { return !kuyruk_.empty() || bitti_; });
+        if (kuyruk_.empty()) break;
+        parca = std::move(kuyruk_.front());
+        kuyruk_.pop_front();
+        yer_.notify_one();
+      }
+      sema.Ekle(parca);
+    }
+    return sema.Bitir();
+  }
+
+  std::mutex m_;
+  std::condition_variable parca_, yer_;
+  std::deque<QByteArray> kuyruk_;
+  bool bitti_ = false, birak_ = false;
+  std::future<QString> sonuc_;  // last: the thread starts once the rest is there
+};
+
+// The scratch file of the rows with the check beside it: every piece goes to
+// both.
+class Catal : public QIODevice {
+ public:
+  Catal(QIODevice& dosya, Denetim& denetim) : dosya_(dosya), denetim_(denetim) {
+    open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+  }
+
+ protected:
+  qint64 readData(char*, qint64) override { return -1; }
+  qint64 writeData(const char* p, qint64 n) override {
+    const qint64 yazilan = dosya_.write(p, n);
+    if (yazilan == n) denetim_.Ver(QByteArray(p, n));
+    return yazilan;
+  }
+
+ private:
+  QIODevice& dosya_;
+  Denetim& denetim_;
+};
+
 class Aktarim {
  public:
   Aktarim(db::Baglanti& b, const Istek& i, const Geri& g)
@@ -98,45 +216,108 @@ class Aktarim {
 
   Sonuc Calistir() {
     QDir().mkpath(i_.klasor);
-    const QString dosya = QDir(i_.klasor).filePath(QString::fromLatin1(kDosyaAdi));
+    const QDir klasor(i_.klasor);
+    const QString dosya = klasor.filePath(QString::fromLatin1(kDosyaAdi));
     QSaveFile f(dosya);
     Ac(f);
     const QVariant bas = Sql(i_.bas), son = Sql(i_.son);
-    s_.satirlar = b_.Sorgu(
-        AnaSorgu(), {v_.carpan, v_.carpan, bas, son, i_.limit, v_.carpan, bas, son, i_.limit});
-    s_.kayitToplam = s_.satirlar.RecordCount();
-    Toplamlar(bas, son);
+    // The totals are read beside the rows, on a connection of their own
+    // where there can be one; their failure comes out at get().
+    std::shared_future<void> toplamlar;
+    if (AyriOkunur(b_))
+      toplamlar = std::async(std::launch::async, [this, bas, son] {
+                    db::Baglanti ayri;
+                    ayri.Ac(b_.Yol(), db::Baglanti::Kip::SadeceOku);
+                    Toplamlar(ayri, bas, son);
+                  }).share();
+    else
+      Toplamlar(b_, bas, son);
+    const aktarim::Ofis ofis = Ofis();  // its faults stand first in the list
 
-    MaliyeYazici y(f, v_);
-    y.Bas(Ofis(), BilgiDonem(), i_.bugun.toString(QStringLiteral("yyyyMMdd")), s_.kayitToplam,
-          s_.odverToplam, s_.odtahToplam);
+    // The head counts the rows, and they are counted only once the last is
+    // written: they go to a scratch file beside the transfer file first, one
+    // at a time, and follow the head there afterwards. The schema check reads
+    // them as they are written, behind a head that counts 0 rows: the count
+    // is the one byte that differs from the file, and any count is a valid
+    // one, so the check says of the file what it says of what it read.
+    QTemporaryFile govde(klasor.filePath(QStringLiteral("Velmora.XXXXXX")));
+    if (!govde.open())
+      throw DosyaHatasi(govde.fileName() + QStringLiteral(": ") + govde.errorString());
+    Denetim denetim(v_, dosya, [this, &ofis, toplamlar] {
+      if (toplamlar.valid()) toplamlar.get();
+      return Basi(ofis, 0);
+    });
+    {
+      Catal catal(govde, denetim);
+      MaliyeYazici y(catal, v_);
+      Satirlar(y);
+      if (s_.yapilan > 0) y.KayitlarSon();
+      y.Son();
+      if (!y.Tamam())
+        throw DosyaHatasi(govde.fileName() + QStringLiteral(": ") + govde.errorString());
+    }
+    denetim.Kapat();
+    s_.kayitToplam = s_.yapilan;
+    if (g_.yazildi) g_.yazildi(s_.yapilan);
+    if (toplamlar.valid()) toplamlar.get();
+
+    const QByteArray basi = Basi(ofis, s_.kayitToplam);
+    if (f.write(basi) != basi.size())
+      throw DosyaHatasi(dosya + QStringLiteral(": ") + f.errorString());
+    Ekle(f, govde);
     s_.ozet = QStringLiteral("Ödünç Tutar : ") + Genel::SayiYaz(s_.odverToplam, v_.basamak) +
               QStringLiteral("\r\nTahsil Tutar:  ") + Genel::SayiYaz(s_.odtahToplam, v_.basamak);
-    if (s_.kayitToplam > 0) {
-      y.KayitlarBas();
-      Satirlar(y);
+    if (s_.yapilan > 0)
       s_.ozet += QStringLiteral("\r\n Aktarılan Kayıt: ") + Genel::SayiYaz(s_.yapilan, 0);
-      y.KayitlarSon();
-    }
-    y.Son();
-    if (!y.Tamam()) throw DosyaHatasi(dosya + QStringLiteral(": ") + f.errorString());
     HataListesi();
     if (!f.commit()) throw DosyaHatasi(dosya + QStringLiteral(": ") + f.errorString());
     s_.dosya = dosya;
-    s_.semaHatasi = SemayaUygunMu(dosya, v_);
-    s_.satirlar.MoveFirst();
+    s_.semaHatasi = denetim.Sonuc();
     return std::move(s_);
   }
 
  private:
-  void Toplamlar(const QVariant& bas, const QVariant& son) {
+  // The lines of the file down to </protokol>.
+  QByteArray Basi(const aktarim::Ofis& ofis, int kayitSayisi) const {
+    QBuffer b;
+    b.open(QIODevice::WriteOnly);
+    {
+      MaliyeYazici y(b, v_);
+      y.Bas(ofis, BilgiDonem(), i_.bugun.toString(QStringLiteral("yyyyMMdd")), kayitSayisi,
+            s_.odverToplam, s_.odtahToplam);
+    }
+    return b.data();
+  }
+
+ private:
+  // The rows written so far follow the head.
+  static void Ekle(QSaveFile& f, QTemporaryFile& govde) {
+    QByteArray parca(1 << 16, Qt::Uninitialized);
+    if (!govde.seek(0))
+      throw DosyaHatasi(govde.fileName() + QStringLiteral(": ") + govde.errorString());
+    for (;;) {
+      const qint64 n = govde.read(parca.data(), parca.size());
+      if (n < 0) throw DosyaHatasi(govde.fileName() + QStringLiteral(": ") + govde.errorString());
+      if (n == 0) return;
+      if (f.write(parca.constData(), n) != n)
+        throw DosyaHatasi(f.fileName() + QStringLiteral(": ") + f.errorString());
+    }
+  }
+
+  // A second connection sees what the first has written: the file is one on
+  // the disk and no transaction of the first is open.
+  static bool AyriOkunur(const db::Baglanti& b) {
+    return !b.IslemIcinde() && QFileInfo(b.Yol()).isFile();
+  }
+
+  void Toplamlar(db::Baglanti& b, const QVariant& bas, const QVariant& son) {
     const QVariantList d = {v_.carpan, bas, son, i_.limit};
     s_.odverToplam =
-        Toplam(b_,
+        Toplam(b,
                QStringLiteral("SELECT SUM(Tutar * ?) FROM Sozlesme WHERE Tarih BETWEEN ? AND ?"
                               " AND Tutar >= ? AND Doviz = 'TRL'"),
                d) +
-        Toplam(b_,
+        Toplam(b,
                QStringLiteral("SELECT SUM(Kur.Kur * S.Tutar * ?) FROM Sozlesme S INNER JOIN Kur"
                               " ON S.Tarih = Kur.Tarih AND S.Doviz = Kur.Doviz"
                               " WHERE S.Tarih BETWEEN ? AND ? AND S.Tutar >= ?"
@@ -144,7 +325,7 @@ class Aktarim {
                d);
     // By due date and without a join: the figures of earlier filings were
     // made so, though the rows go by the day of payment.
-    s_.odtahToplam = Toplam(b_,
+    s_.odtahToplam = Toplam(b,
                             QStringLiteral("SELECT SUM(Meblag * ?) FROM SozlesmeDetay WHERE "
                                            "Vadesi BETWEEN ? AND ? AND Meblag >= ?"),
                             d);
@@ -198,8 +379,8 @@ class Aktarim {
     return d.metin;
   }
 
-  Kisi KisiOku(const db::Kayitlar& rs) {
-    const auto m = [&rs](int c) { return Metin(rs.Fields(c)); };
+  Kisi KisiOku(const db::Imlec& rs) {
+    const auto m = [&rs](int c) { return rs.Metin(c); };
     const QString kim =
         m(cMusteriNo) + QStringLiteral(" Numaralı ") + m(cSoyadi) + QLatin1Char(' ') + m(cAdi);
     Kisi k;
@@ -240,12 +421,12 @@ class Aktarim {
     if (g_.kurUyarisi) g_.kurUyarisi(metin);
   }
 
-  void Odver(MaliyeYazici& y, const db::Kayitlar& rs) {
-    const QString tarih = Metin(rs.Fields(cTarih));
+  void Odver(MaliyeYazici& y, const db::Imlec& rs) {
+    const QString tarih = rs.Metin(aTarih);
     const QString sozTar = GunYaz(tarih);
-    const QString sozNo = SozNo(Metin(rs.Fields(cSozlesmeSeri)), Metin(rs.Fields(cSozlesmeNo)));
-    const QVariant doviz = rs.Fields(cDoviz);
-    const QVariant tutar = rs.Fields(cTutar), faiz = rs.Fields(cFaizTutar);
+    const QString sozNo = SozNo(rs.Metin(aSozlesmeSeri), rs.Metin(aSozlesmeNo));
+    const QVariant doviz = rs.Fields(aDoviz);
+    const QVariant tutar = rs.Fields(aTutar), faiz = rs.Fields(aFaizTutar);
     // A contract without a currency goes down the lira path.
     if (db::NullMu(doviz) || doviz.toString() == QLatin1String("TRL")) {
       y.Odver(sozTar, sozNo, true, Tutar(tutar), QStringLiteral("0"), Tutar(faiz),
@@ -268,20 +449,29 @@ class Aktarim {
   }
 
   void Satirlar(MaliyeYazici& y) {
-    db::Kayitlar& rs = s_.satirlar;
-    QString onceki;
-    bool ilk = true;
-    for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext()) {
-      const QString no = Metin(rs.Fields(cMusteriNo));
-      if (ilk || no != onceki) {
-        y.Musteri(KisiOku(rs));
+    db::Imlec rs(b_, AkisSorgusu(), AnaSorguDegerleri(i_));
+    db::Imlec musteri(
+        b_, QLatin1String(kSutunlar) + QStringLiteral(" FROM Musteri M WHERE M.MusteriNo = ?"),
+        {db::Null()});
+    QVariant onceki;
+    bool musteriVar = false;
+    while (rs.Ilerle()) {
+      const QVariant no = rs.Fields(aMusteriNo);
+      if (db::NullMu(no)) continue;
+      if (db::NullMu(onceki) || no != onceki) {
         onceki = no;
-        ilk = false;
+        musteri.Yeniden({no});
+        musteriVar = musteri.Ilerle();
+        if (!musteriVar) continue;
+        if (s_.yapilan == 0) y.KayitlarBas();
+        y.Musteri(KisiOku(musteri));
+      } else if (!musteriVar) {
+        continue;
       }
-      if (rs.Fields(cTIP).toInt() == 1)
+      if (rs.Fields(aTIP).toInt() == 1)
         Odver(y, rs);
       else
-        y.Odtah(GunYaz(Metin(rs.Fields(cTarih))), Tutar(rs.Fields(cTutar)));
+        y.Odtah(GunYaz(rs.Metin(aTarih)), Tutar(rs.Fields(aTutar)));
       ++s_.yapilan;
       if (g_.ilerleme) g_.ilerleme(s_.yapilan);
     }
@@ -347,40 +537,89 @@ Sonuc Hazirla(db::Baglanti& b, const Istek& istek, const Geri& geri) {
   return Aktarim(b, istek, geri).Calistir();
 }
 
+namespace {
+
+// One line of the control list: every value as text followed by a tab, then
+// CR LF. `deger(c)` gives the value of column c.
+template <class Deger>
+void KontrolSatiri(QByteArray& out, int sutunlar, int tarih, Deger deger) {
+  const QChar tab = QLatin1Char('\t');
+  QString satir;
+  for (int c = 0; c < sutunlar; ++c) {
+    const QVariant v = deger(c);
+    if (db::NullMu(v))
+      ;
+    else if (c == tarih)
+      satir += Genel::TarihEkran(v);
+    else if (v.typeId() == QMetaType::Double)
+      satir +=
+          QString::number(v.toDouble(), 'g', 15).replace(QLatin1Char('.'), Genel::Bolge().ondalik);
+    else
+      satir += v.toString();
+    satir += tab;
+  }
+  out += satir.toUtf8() + "\r\n";
+}
+
+void BasliklarSatiri(QByteArray& out, const QStringList& alanlar) {
+  QString satir;
+  for (const QString& ad : alanlar) satir += ad + QLatin1Char('\t');
+  out += satir.toUtf8() + "\r\n";
+}
+
+QSaveFile* KontrolDosyasi(QSaveFile& f, const QString& klasor) {
+  QDir().mkpath(klasor);
+  f.setFileName(QDir(klasor).filePath(QString::fromLatin1(kKontrolDosyasi)));
+  return Ac(f);
+}
+
+}  // namespace
+
+QVariantList AnaSorguDegerleri(const Istek& i) {
+  const double carpan = VaryantSec(i.son.year()).carpan;
+  const QVariant bas = Sql(i.bas), son = Sql(i.son);
+  return {carpan, carpan, bas, son, i.limit, carpan, bas, son, i.limit};
+}
+
+db::Kayitlar KontrolSatirlari(db::Baglanti& b, const Istek& i) {
+  return b.Sorgu(AnaSorgu(), AnaSorguDegerleri(i));
+}
+
 QByteArray KontrolListesi(const db::Kayitlar& rs) {
   QByteArray out;
   if (rs.RecordCount() == 0) return out;
-  const QChar tab = QLatin1Char('\t');
-  QString satir;
-  for (const QString& ad : rs.Alanlar()) satir += ad + tab;
-  out += satir.toUtf8() + "\r\n";
+  BasliklarSatiri(out, rs.Alanlar());
   const int tarih = rs.AlanNo(QStringLiteral("Tarih"));
-  for (int r = 0; r < rs.RecordCount(); ++r) {
-    satir.clear();
-    for (int c = 0; c < rs.AlanSayisi(); ++c) {
-      const QVariant v = rs.Deger(r, c);
-      QString t;
-      if (db::NullMu(v))
-        t.clear();
-      else if (c == tarih)
-        t = Genel::TarihEkran(v);
-      else if (v.typeId() == QMetaType::Double)
-        t = QString::number(v.toDouble(), 'g', 15)
-                .replace(QLatin1Char('.'), Genel::Bolge().ondalik);
-      else
-        t = v.toString();
-      satir += t + tab;
-    }
-    out += satir.toUtf8() + "\r\n";
-  }
+  for (int r = 0; r < rs.RecordCount(); ++r)
+    KontrolSatiri(out, rs.AlanSayisi(), tarih, [&](int c) { return rs.Deger(r, c); });
   return out;
 }
 
 QString KontrolListesiYaz(const db::Kayitlar& rs, const QString& klasor) {
-  QDir().mkpath(klasor);
-  QSaveFile f(QDir(klasor).filePath(QString::fromLatin1(kKontrolDosyasi)));
-  Ac(f);
+  QSaveFile f;
+  KontrolDosyasi(f, klasor);
   Kaydet(f, KontrolListesi(rs));
+  return f.fileName();
+}
+
+QString KontrolListesiYaz(db::Baglanti& b, const Istek& i, const QString& klasor) {
+  QSaveFile f;
+  KontrolDosyasi(f, klasor);
+  db::Imlec rs(b, AnaSorgu(), AnaSorguDegerleri(i));
+  const int tarih = rs.AlanNo(QStringLiteral("Tarih"));
+  QByteArray parca;
+  bool ilk = true;
+  while (rs.Ilerle()) {
+    if (ilk) BasliklarSatiri(parca, rs.Alanlar());
+    ilk = false;
+    KontrolSatiri(parca, rs.AlanSayisi(), tarih, [&](int c) { return rs.Fields(c); });
+    if (parca.size() >= (1 << 16)) {
+      if (f.write(parca) != parca.size())
+        throw DosyaHatasi(f.fileName() + QStringLiteral(": ") + f.errorString());
+      parca.clear();
+    }
+  }
+  Kaydet(f, parca);
   return f.fileName();
 }
 

@@ -41,7 +41,7 @@ struct Istek {
 };
 
 struct Sonuc {
-  int kayitToplam = 0;  // rows of the main query
+  int kayitToplam = 0;  // rows of the main query, in the head of the file
   int yapilan = 0;      // rows written
   double odverToplam = 0, odtahToplam = 0;
   QString ozet;              // the summary, lines joined by CR LF
@@ -49,7 +49,6 @@ struct Sonuc {
   QStringList kurUyarilari;  // contracts whose rate is missing
   QString dosya;             // the transfer file written
   QString semaHatasi;        // the first fault against our schema; empty when valid
-  db::Kayitlar satirlar;     // the rows of the main query, for the control list
 };
 
 // A file could not be written; nothing of the run is left behind, and an
@@ -67,13 +66,21 @@ class DosyaHatasi : public std::runtime_error {
 struct Geri {
   // After every row, with the rows written so far.
   std::function<void(int)> ilerleme;
+  // Once the last row is written, with their number, before the file is
+  // put together and checked.
+  std::function<void(int)> yazildi;
   // A contract without a usable rate, as it is met; the run goes on after it.
   std::function<void(const QString&)> kurUyarisi;
 };
 
 // The main query: the factor, start, end and limit of the contracts, then
-// the same of the lines, as bound values.
+// the same of the lines, as bound values (AnaSorguDegerleri).
 QString AnaSorgu();
+QVariantList AnaSorguDegerleri(const Istek& istek);
+// The rows of the main query without the customer's columns (its 2nd and
+// 18th to 24th), in its order, with the same values, and without the join
+// to the customer: the file is written from these, each customer read once.
+QString AkisSorgusu();
 
 // Runs the transfer on `b` and writes Velmora.xml (and, when there are
 // faults, HataliKayit.txt) into the request's folder, then checks the file
@@ -82,10 +89,15 @@ QString AnaSorgu();
 // written.
 Sonuc Hazirla(db::Baglanti& b, const Istek& istek, const Geri& geri = {});
 
+// The rows of the main query for the control list's grid, read after a run.
+db::Kayitlar KontrolSatirlari(db::Baglanti& b, const Istek& istek);
+
 // The control list: a line of column names, then a line per row, every value
-// followed by a tab, lines ending in CR LF.
+// followed by a tab, lines ending in CR LF; nothing without rows.
 QByteArray KontrolListesi(const db::Kayitlar& rs);
 // Writes it as MaliyeBilgiKontrol.csv into `klasor`; throws DosyaHatasi.
 QString KontrolListesiYaz(const db::Kayitlar& rs, const QString& klasor);
+// The same from the main query, a row at a time, for the command line.
+QString KontrolListesiYaz(db::Baglanti& b, const Istek& istek, const QString& klasor);
 
 }  // namespace aktarim

@@ -8,18 +8,25 @@ namespace aktarim {
 
 namespace {
 
-// Where the file says who made it.
-const char* const kYapan =
-    "<!-- Tuvan Yazılım Velmora Takip Programı ile oluşturulmuştur. "
-    "https://velmora.invalid -->";
+// Where the file says who made it. The program has no web address of its
+// own; its version, in the words of the about box, tells which build wrote
+// the file.
+QString Yapan() {
+  return QStringLiteral(
+             "<!-- Tuvan Yazılım Velmora Takip Programı ile oluşturulmuştur. "
+             "Versiyon: %1.%2. Yapım:%3 -->")
+      .arg(Genel::kMajor)
+      .arg(Genel::kMinor)
+      .arg(Genel::kRevision);
+}
 
-bool TutarEtiketi(const QString& etiket) {
-  static const QStringList tutarlar = {
-      QStringLiteral("odvertoplamtutar"), QStringLiteral("odtahtoplamtutar"),
-      QStringLiteral("otutartl"),         QStringLiteral("otutarabd"),
-      QStringLiteral("ftutartl"),         QStringLiteral("ftutarabd"),
-      QStringLiteral("tahtutartl"),       QStringLiteral("tahtutarabd")};
-  return tutarlar.contains(etiket);
+bool TutarEtiketi(QAnyStringView etiket) {
+  static constexpr const char* tutarlar[] = {"odvertoplamtutar", "odtahtoplamtutar", "otutartl",
+                                             "otutarabd",        "ftutartl",         "ftutarabd",
+                                             "tahtutartl",       "tahtutarabd"};
+  for (const char* t : tutarlar)
+    if (QAnyStringView::compare(etiket, QLatin1StringView(t)) == 0) return true;
+  return false;
 }
 
 // Characters an XML 1.0 document may hold: tab, line ends and the printable
@@ -49,6 +56,7 @@ QString Temizle(const QString& metin) {
 // The first `n` characters, never half of a pair of surrogates.
 QString Kes(const QString& metin, int n) {
   if (n < 0) n = 0;
+  if (metin.size() <= n) return metin;  // no more characters than code units
   const QList<uint> kod = metin.toUcs4();
   if (kod.size() <= n) return metin;
   return QString::fromUcs4(reinterpret_cast<const char32_t*>(kod.constData()), n);
@@ -128,14 +136,57 @@ QString GunYaz(const QString& sqlTarih) {
   return t;
 }
 
+namespace {
+
+// A value that the file takes as it stands: printable ASCII that needs no
+// escape, no wider than the element, and no comma where one would become a
+// point.
+bool Duz(const QString& deger, int uzunluk, bool tutar) {
+  if (deger.size() > uzunluk) return false;
+  for (const QChar c : deger) {
+    const char16_t u = c.unicode();
+    if (u < 0x20 || u > 0x7e || u == '&' || u == '<' || u == '>' || (tutar && u == ','))
+      return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+MaliyeYazici::~MaliyeYazici() { Bosalt(); }
+
+bool MaliyeYazici::Bosalt() {
+  if (!tampon_.isEmpty() && cikis_.write(tampon_) != tampon_.size()) tamam_ = false;
+  tampon_.resize(0);  // keeps its room
+  return tamam_;
+}
+
+// Lines gather in a buffer and reach the device in large pieces.
+void MaliyeYazici::Ekle(QByteArrayView b) {
+  if (tampon_.capacity() < kTampon + 1024) tampon_.reserve(2 * kTampon);
+  tampon_.append(b.data(), b.size());
+  if (tampon_.size() >= kTampon) Bosalt();
+}
+
 void MaliyeYazici::Satir(const QString& s) {
-  const QByteArray b = s.toUtf8() + "\r\n";
-  if (cikis_.write(b) != b.size()) tamam_ = false;
+  Ekle(s.toUtf8());
+  Ekle("\r\n");
 }
 
 void MaliyeYazici::Etiket(const QString& deger, const char* etiket, int uzunluk, bool zorunlu) {
-  const QString s = EtiketSatiri(deger, QString::fromLatin1(etiket), uzunluk, zorunlu);
-  if (!s.isEmpty()) Satir(s);
+  if (deger.isEmpty() && !zorunlu) return;
+  const bool tutar = TutarEtiketi(QLatin1StringView(etiket));
+  const QByteArrayView ad(etiket);
+  Ekle("<");
+  Ekle(ad);
+  Ekle(">");
+  if (Duz(deger, uzunluk, tutar))
+    Ekle(deger.toLatin1());
+  else
+    Ekle(EtiketDegeri(deger, QString::fromLatin1(etiket), uzunluk).toUtf8());
+  Ekle("</");
+  Ekle(ad);
+  Ekle(">\r\n");
 }
 
 void MaliyeYazici::Adres(const QString& adres, const QString& ilce, const QString& pk,
@@ -153,7 +204,7 @@ void MaliyeYazici::Adres(const QString& adres, const QString& ilce, const QStrin
 void MaliyeYazici::Bas(const Ofis& o, const QString& bilgiDonem, const QString& bilgiTarih,
                        int kayitSayisi, double odverToplam, double odtahToplam) {
   Satir(QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\" ?>"));
-  Satir(QString::fromUtf8(kYapan));
+  Satir(Yapan());
   Satir(QStringLiteral(" <vimveritransferi "
                        "xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
                        "xsi:noNamespaceSchemaLocation=\"%1\">")
@@ -244,6 +295,9 @@ void MaliyeYazici::KayitlarSon() {
   Satir(QStringLiteral("</kayitlar>"));
 }
 
-void MaliyeYazici::Son() { Satir(QStringLiteral("</vimveritransferi>")); }
+void MaliyeYazici::Son() {
+  Satir(QStringLiteral("</vimveritransferi>"));
+  Bosalt();
+}
 
 }  // namespace aktarim

@@ -4,6 +4,8 @@
 // paper collected. Only the form lives here; which rows go in and what they
 // amount to is decided by the procedure (MaliyeAktarim).
 
+#include <QByteArray>
+#include <QByteArrayView>
 #include <QIODevice>
 #include <QString>
 #include <QStringList>
@@ -59,9 +61,14 @@ struct Ofis {
 };
 
 // Writes the file to an open device; every line ends in CR LF, in UTF-8.
+// The lines reach the device in pieces: Bosalt() (and Son(), and the end of
+// the writer) hands over what is left.
 class MaliyeYazici {
  public:
   MaliyeYazici(QIODevice& cikis, const Varyant& v) : cikis_(cikis), v_(v) {}
+  ~MaliyeYazici();
+  MaliyeYazici(const MaliyeYazici&) = delete;
+  MaliyeYazici& operator=(const MaliyeYazici&) = delete;
 
   // Lines 1 to </protokol>.
   void Bas(const Ofis& ofis, const QString& bilgiDonem, const QString& bilgiTarih, int kayitSayisi,
@@ -79,10 +86,14 @@ class MaliyeYazici {
   void Son();
 
   const Varyant& varyant() const { return v_; }
+  // Writes what is gathered to the device; false once a write failed.
+  bool Bosalt();
   // False once a write to the device failed.
   bool Tamam() const { return tamam_; }
 
  private:
+  static constexpr qsizetype kTampon = 1 << 16;
+  void Ekle(QByteArrayView b);
   void Satir(const QString& s);
   void Etiket(const QString& deger, const char* etiket, int uzunluk, bool zorunlu);
   void Adres(const QString& adres, const QString& ilce, const QString& pk, const QString& ilAdi,
@@ -90,6 +101,7 @@ class MaliyeYazici {
 
   QIODevice& cikis_;
   Varyant v_;
+  QByteArray tampon_;
   int musteri_ = 0;
   bool tamam_ = true;
 };

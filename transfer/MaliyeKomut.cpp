@@ -72,8 +72,9 @@ int MaliyeKomutu(const std::function<db::Baglanti&()>& baglan, const QStringList
     istek.klasor = klasor.isEmpty() ? CiktiDizini() : klasor;
     Geri geri;
     geri.kurUyarisi = [&hata](const QString& m) { hata << m << '\n'; };
-    const Sonuc s = Hazirla(baglan(), istek, geri);
-    if (s.yapilan > 0) KontrolListesiYaz(s.satirlar, istek.klasor);
+    db::Baglanti& b = baglan();
+    const Sonuc s = Hazirla(b, istek, geri);
+    if (s.yapilan > 0) KontrolListesiYaz(b, istek, istek.klasor);
     for (const QString& h : s.hatalar) hata << h << '\n';
     cikti << QString(s.ozet).replace(QStringLiteral("\r\n"), QStringLiteral("\n")) << '\n'
           << s.dosya << '\n';

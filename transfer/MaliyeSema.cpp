@@ -196,16 +196,32 @@ QByteArray SemaMetni(const Varyant& v) {
   return QString::fromUtf8(kSema).arg(tutar).toUtf8();
 }
 
-QString SemayaUygunMu(const QString& yol, const Varyant& v) {
+namespace {
+
+using SemaPtr = std::unique_ptr<xmlSchema, SemaSil>;
+
+// The schema of a variant, read; null with the reason in `ilk` when it can't be.
+SemaPtr SemaOku(const Varyant& v, IlkHata& ilk) {
   xmlInitParser();
   const QByteArray sema = SemaMetni(v);
-  IlkHata ilk;
   std::unique_ptr<xmlSchemaParserCtxt, SemaSil> ayristirici(
       xmlSchemaNewMemParserCtxt(sema.constData(), int(sema.size())));
-  if (!ayristirici) return QStringLiteral("şema okunamadı");
+  if (!ayristirici) {
+    ilk.metin = QStringLiteral("şema okunamadı");
+    return nullptr;
+  }
   xmlSchemaSetParserStructuredErrors(ayristirici.get(), HataAl, &ilk);
-  std::unique_ptr<xmlSchema, SemaSil> s(xmlSchemaParse(ayristirici.get()));
-  if (!s) return QStringLiteral("şema okunamadı: ") + ilk.metin;
+  SemaPtr s(xmlSchemaParse(ayristirici.get()));
+  if (!s) ilk.metin = QStringLiteral("şema okunamadı: ") + ilk.metin;
+  return s;
+}
+
+}  // namespace
+
+QString SemayaUygunMu(const QString& yol, const Varyant& v) {
+  IlkHata ilk;
+  const SemaPtr s = SemaOku(v, ilk);
+  if (!s) return ilk.metin;
   std::unique_ptr<xmlSchemaValidCtxt, SemaSil> dogrulayici(xmlSchemaNewValidCtxt(s.get()));
   if (!dogrulayici) return QStringLiteral("şema okunamadı");
   xmlSchemaSetValidStructuredErrors(dogrulayici.get(), HataAl, &ilk);
@@ -216,6 +232,71 @@ QString SemayaUygunMu(const QString& yol, const Varyant& v) {
   xmlSetStructuredErrorFunc(nullptr, nullptr);
   if (sonuc == 0) return QString();
   return ilk.metin.isEmpty() ? QStringLiteral("dosya okunamadı") : ilk.metin;
+}
+
+namespace {
+
+int Yer(void* ayristirici, const char** dosya, unsigned long* satir) {
+  const xmlParserInput* girdi = static_cast<xmlParserCtxt*>(ayristirici)->input;
+  if (!girdi) return -1;
+  if (dosya) *dosya = girdi->filename;
+  if (satir) *satir = static_cast<unsigned long>(girdi->line);
+  return 0;
+}
+
+}  // namespace
+
+struct SemaAkisi::Durum {
+  IlkHata ilk;
+  SemaPtr sema;
+  std::unique_ptr<xmlSchemaValidCtxt, SemaSil> dogrulayici;
+  xmlSAXHandler bos{};  // no handlers of our own: nothing is kept of the document
+  xmlSAXHandler* sax = &bos;
+  void* kullanici = nullptr;
+  xmlSchemaSAXPlugStruct* tak = nullptr;
+  xmlParserCtxt* ayristirici = nullptr;
+
+  ~Durum() {
+    if (ayristirici) xmlFreeParserCtxt(ayristirici);
+    if (tak) xmlSchemaSAXUnplug(tak);
+    xmlSetStructuredErrorFunc(nullptr, nullptr);
+  }
+};
+
+SemaAkisi::SemaAkisi(const Varyant& v, const QString& ad) : d_(std::make_unique<Durum>()) {
+  d_->sema = SemaOku(v, d_->ilk);
+  if (!d_->sema) return;
+  d_->dogrulayici.reset(xmlSchemaNewValidCtxt(d_->sema.get()));
+  if (!d_->dogrulayici) return;
+  xmlSchemaSetValidStructuredErrors(d_->dogrulayici.get(), HataAl, &d_->ilk);
+  xmlSetStructuredErrorFunc(&d_->ilk, HataAl);
+  d_->bos.initialized = XML_SAX2_MAGIC;
+  d_->tak = xmlSchemaSAXPlug(d_->dogrulayici.get(), &d_->sax, &d_->kullanici);
+  if (!d_->tak) return;
+  d_->ayristirici = xmlCreatePushParserCtxt(d_->sax, d_->kullanici, nullptr, 0,
+                                            QFile::encodeName(ad).constData());
+  if (!d_->ayristirici) return;
+  // The faults name the line the parser stands on, as a check of the file
+  // on the disk does.
+  xmlSchemaValidateSetLocator(d_->dogrulayici.get(), Yer, d_->ayristirici);
+}
+
+SemaAkisi::~SemaAkisi() = default;
+
+void SemaAkisi::Ekle(QByteArrayView parca) {
+  // After the first fault the rest is not read.
+  if (!d_->ayristirici || !d_->ilk.metin.isEmpty()) return;
+  xmlParseChunk(d_->ayristirici, parca.data(), int(parca.size()), 0);
+}
+
+QString SemaAkisi::Bitir() {
+  if (!d_->ayristirici)
+    return d_->ilk.metin.isEmpty() ? QStringLiteral("şema okunamadı") : d_->ilk.metin;
+  if (d_->ilk.metin.isEmpty()) xmlParseChunk(d_->ayristirici, nullptr, 0, 1);
+  const bool gecerli = d_->ayristirici->wellFormed &&
+                       xmlSchemaIsValid(d_->dogrulayici.get()) == 1 && d_->ilk.metin.isEmpty();
+  if (gecerli) return QString();
+  return d_->ilk.metin.isEmpty() ? QStringLiteral("dosya okunamadı") : d_->ilk.metin;
 }
 
 }  // namespace aktarim

@@ -166,13 +166,18 @@ void frmMaliye::Calistir() {
   QElapsedTimer saat;
   saat.start();
   aktarim::Geri geri;
-  geri.ilerleme = [this, &saat](int n) {
-    if (n > 1 && saat.elapsed() < 50) return;
-    saat.restart();
+  const auto sayac = [this](int n) {
     lblMesaj->setText(QStringLiteral("Aktarılan Kayıt: ") + Genel::SayiYaz(n, 0));
     lblMesaj->repaint();
     QCoreApplication::processEvents();
   };
+  geri.ilerleme = [&saat, &sayac](int n) {
+    if (n > 1 && saat.elapsed() < 50) return;
+    saat.restart();
+    sayac(n);
+  };
+  // The count stands whole while the file is put together and checked.
+  geri.yazildi = sayac;
   geri.kurUyarisi = [](const QString& metin) { mesaj::Kritik(metin, QStringLiteral("UYARI")); };
 
   aktarim::Sonuc sonuc;
@@ -193,9 +198,15 @@ void frmMaliye::Calistir() {
     mesaj::Goster(liste, QString(), mesaj::Tur::Duz);
   }
   DataGrid1->Bagla(nullptr);
-  rsKontrol = std::move(sonuc.satirlar);
+  rsKontrol = db::Kayitlar();
   const bool satirVar = sonuc.yapilan > 0;
   if (satirVar) {
+    // The run kept none of its rows; the grid reads them now.
+    try {
+      rsKontrol = aktarim::KontrolSatirlari(Genel::Baglanti, istek);
+    } catch (const db::Hata& h) {
+      ekran::HataGoster(h);
+    }
     DataGrid1->Bagla(&rsKontrol);
     GridDuzenle();
   }

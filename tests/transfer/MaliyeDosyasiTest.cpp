@@ -182,7 +182,7 @@ TEST_F(MaliyeDisk, KontrolListesiSekmeliTumSutunlar) {
       "VALUES (1, '2005-03-01', '2005-03-02', 20000, 'TRL')");
   QTemporaryDir d;
   const aktarim::Sonuc s = aktarim::Hazirla(Genel::Baglanti, Istek(d.path()));
-  const QString yol = aktarim::KontrolListesiYaz(s.satirlar, d.path());
+  const QString yol = aktarim::KontrolListesiYaz(Genel::Baglanti, Istek(d.path()), d.path());
   const QByteArray beklenen =
       "VergiKimlikNo\tMusteriNo\tSoyadi\tAdi\tBabaAdi\tAdres\tIlce\tPostaKod\tIl_Ad\tIlKod\t"
       "TCKimlikNo\tVekilDurum\tVekilVergiKimlik\tVekilSoyadi\tVekilAdi\tUyruk\tHukukiDurum\t"
@@ -190,9 +190,36 @@ TEST_F(MaliyeDisk, KontrolListesiSekmeliTumSutunlar) {
       "12\t4\tTAB\tLI\tŞÜ\t\t\t\t\t\t6\t\t\t\t\t\t1\t\t1\tTRL\t03.02.2005\t12345,5\t10\tA\t7\t\r\n"
       "12\t4\tTAB\tLI\tŞÜ\t\t\t\t\t\t6\t\t\t\t\t\t1\t\t2\tTRL\t02.03.2005\t20000\t0\t \t \t\r\n";
   EXPECT_EQ(Oku(yol), beklenen);
-  // A second write replaces the file with the same content.
-  aktarim::KontrolListesiYaz(s.satirlar, d.path());
+  // A second write replaces the file with the same content; the rows read
+  // into a record set give the same bytes as the rows read one by one.
+  aktarim::KontrolListesiYaz(aktarim::KontrolSatirlari(Genel::Baglanti, Istek(d.path())), d.path());
   EXPECT_EQ(Oku(yol), beklenen);
+}
+
+TEST_F(MaliyeDisk, SemayaUymayanDosyaSaklanirIlkHataSoylenir) {
+  // Amounts too long for their elements: in the head, and in a row far
+  // behind the first piece the check reads.
+  Genel::Baglanti.Calistir(
+      "UPDATE Firma SET IlKod = 6;"
+      "INSERT INTO Musteri(MusteriNo, VergiKimlikNo, Soyadi, Adi, IlKod, Uyruk) "
+      "VALUES (4, '1234567890', 'KAYA', 'ALİ', 6, 2);"
+      "INSERT INTO Sozlesme(SozlesmeID, SozlesmeSeri, SozlesmeNo, MusteriNo, Tarih, Tutar, "
+      "FaizTutar, Doviz) VALUES (1, 'A', 1, 4, '2005-02-03', 20000, 10, 'TRL');"
+      "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000)"
+      " INSERT INTO SozlesmeDetay(SozlesmeID, Vadesi, Odenmesi, Meblag, Doviz)"
+      " SELECT 1, '2005-05-01', '2005-03-01', 10000 + i, 'TRL' FROM n;"
+      "INSERT INTO SozlesmeDetay(SozlesmeID, Vadesi, Odenmesi, Meblag, Doviz)"
+      " VALUES (1, '2005-05-01', '2005-03-02', 1e17, 'TRL')");
+  QTemporaryDir d;
+  aktarim::Sonuc s = aktarim::Hazirla(Genel::Baglanti, Istek(d.path()));
+  EXPECT_TRUE(s.semaHatasi.contains("tahtutartl")) << s.semaHatasi.toStdString();
+  EXPECT_EQ(s.semaHatasi, aktarim::SemayaUygunMu(s.dosya, aktarim::VaryantSec(2005)));
+  EXPECT_TRUE(Oku(s.dosya).contains("<gonkayitsayisi>3002</gonkayitsayisi>"));
+
+  Genel::Baglanti.Calistir("UPDATE Sozlesme SET Tutar = 1e17");
+  s = aktarim::Hazirla(Genel::Baglanti, Istek(d.path()));
+  EXPECT_TRUE(s.semaHatasi.startsWith("satır 18:")) << s.semaHatasi.toStdString();
+  EXPECT_TRUE(s.semaHatasi.contains("odvertoplamtutar")) << s.semaHatasi.toStdString();
 }
 
 TEST_F(MaliyeDisk, SemaBozukDosyayiYakalar) {

@@ -203,6 +203,21 @@ TEST_F(MaliyeEkran, CalistirmaOzetKontrolListesiVeCsv) {
   EXPECT_EQ(f->rsKontrol.AbsolutePosition(), 1);
 }
 
+TEST_F(MaliyeEkran, SayacYazilanSatirdaDurur) {
+  Veri();
+  auto* f = Ac();
+  Donem(f, 1, 2005, 3, 2005);
+  // Once the rows are written, the label shows all of them, also while the
+  // file is checked and the faults are shown.
+  QStringList sayaclar;
+  mesaj::CevaplayiciKur([&](const mesaj::Kayit& k) {
+    if (k.tur == mesaj::Tur::Duz) sayaclar << f->lblMesaj->text();
+    return mesaj::Dugme::Tamam;
+  });
+  Bas(f->cmdHazirla);
+  EXPECT_EQ(sayaclar, QStringList{"Aktarılan Kayıt: 3"});
+}
+
 TEST_F(MaliyeEkran, BosDonemGridGizliDosyaYineAcilir) {
   Veri();
   auto* f = Ac();

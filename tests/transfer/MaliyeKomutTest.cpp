@@ -103,7 +103,7 @@ TEST_F(MaliyeKomut, AyniDosyalarOzetVeHatalar) {
   i.bugun = QDate(2005, 4, 15);
   i.klasor = ekran.path();
   const aktarim::Sonuc s = aktarim::Hazirla(Genel::Baglanti, i);
-  aktarim::KontrolListesiYaz(s.satirlar, ekran.path());
+  aktarim::KontrolListesiYaz(aktarim::KontrolSatirlari(Genel::Baglanti, i), ekran.path());
   for (const char* ad : {"Velmora.xml", "HataliKayit.txt", "MaliyeBilgiKontrol.csv"}) {
     const QByteArray b = Oku(QDir(k).filePath(ad));
     EXPECT_FALSE(b.isEmpty()) << ad;
