@@ -2,11 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "core/Ekran.h"
@@ -168,3 +171,28 @@ TEST_F(TarihKutusuTest, YazilanTarihDuzeltilirYaDaReddedilir) {
 }
 
 }  // namespace
+
+// A message of thousands of lines (the faulty tax numbers of a year) must stay
+// on the screen with its button reachable; the real box is shown here.
+class MesajKutusu : public test::Ortam {};
+
+TEST_F(MesajKutusu, UzunMesajEkranaSigar) {
+  mesaj::CevaplayiciKaldir();
+  QStringList satirlar;
+  for (int i = 0; i < 5000; ++i)
+    satirlar << QStringLiteral("%1 Numaralı Müşterinin Vergi numarası Hatalı").arg(i);
+  QSize boyut;
+  bool kaydirir = false;
+  QTimer::singleShot(0, [&] {
+    QWidget* kutu = QApplication::activeModalWidget();
+    ASSERT_NE(kutu, nullptr);
+    boyut = kutu->size();
+    kaydirir = kutu->findChild<QAbstractScrollArea*>() != nullptr;
+    QTest::keyClick(kutu, Qt::Key_Return);
+  });
+  EXPECT_EQ(mesaj::Goster(satirlar.join(QLatin1Char('\n'))), mesaj::Dugme::Tamam);
+  const QSize ekran = QGuiApplication::primaryScreen()->availableGeometry().size();
+  EXPECT_TRUE(kaydirir);
+  EXPECT_LE(boyut.height(), ekran.height());
+  EXPECT_LE(boyut.width(), ekran.width());
+}
