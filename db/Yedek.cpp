@@ -223,6 +223,8 @@ void EskiYedekleriSil(const QString& yol, int kalan) {
 
 QString TarihliYedekAl(Baglanti& baglanti, const QDate& gun) {
   AcikOlmali(baglanti);
+  // The copy would take the transaction's changes that are not committed yet.
+  if (baglanti.IslemIcinde()) throw Hata(QStringLiteral("Açık bir işlem varken yedek alınamaz"));
   const QString hedef = TarihliYedekYolu(baglanti.Yol(), gun);
   const QString gecici = hedef + QStringLiteral(".tmp");
   KopyaYaz(baglanti.ham(), gecici);

@@ -73,6 +73,13 @@ TEST_F(Yedek, TarihliYedekGununKopyasiniYeniler) {
   EXPECT_EQ(db::TarihliYedekAl(b(), kGun), yedek);
   EXPECT_EQ(Musteriler(yedek), (QStringList{u"Işık"_s, u"Çelik"_s}));
   EXPECT_EQ(Dosyalar(), QStringList{"velmora_18112026.db"});
+  // Never in the middle of a transaction: its changes are no backup.
+  {
+    db::Islem islem(b());
+    Musteri(3, "Yarım");
+    EXPECT_THROW(db::TarihliYedekAl(b(), kGun), db::Hata);
+  }
+  EXPECT_EQ(Musteriler(yedek), (QStringList{u"Işık"_s, u"Çelik"_s}));
   // The connection goes on as before.
   Kullanilabilir();
 }
