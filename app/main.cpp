@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QCoreApplication>
+#include <QDate>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTextStream>
 #include <cstdio>
 #include <limits>
@@ -15,12 +17,14 @@
 #include "contract/frmNoDegis.h"
 #include "contract/frmSipYazTanim.h"
 #include "contract/frmSozles.h"
+#include "core/Bakim.h"
 #include "core/Genel.h"
 #include "core/Uygulama.h"
 #include "core/Yazici.h"
 #include "core/YukseltKomut.h"
 #include "core/frmMain.h"
 #include "db/Sema.h"
+#include "db/Yedek.h"
 #include "invoice/FaturaBaski.h"
 #include "invoice/FaturaOnizleme.h"
 #include "invoice/frmFatura.h"
@@ -49,6 +53,11 @@ const char* const kYardim =
     "                                           sözleşmenin faturasını yazdırır\n"
     "  velmora yazdir ekfatura SERI NO [--cikti DOSYA]\n"
     "                                           sözleşmesiz faturayı yazdırır\n"
+    "  velmora bakim                            veri tabanını sıkıştırır, eskisini günün\n"
+    "                                           yedeği olarak bırakır (velmora_GGAAYYYY.db)\n"
+    "  velmora yedekle                          veri tabanının günün yedeğini şimdi alır\n"
+    "  velmora geriyukle DOSYA                  veri tabanını yedek dosyadan geri yükler;\n"
+    "                                           önce şimdikinin yedeğini alır\n"
     "%1"
     "  velmora --help                           bu yardımı gösterir\n"
     "\n"
@@ -193,6 +202,44 @@ int Yazdir(QStringList args) {
   }
 }
 
+// --- velmora bakim, yedekle, geriyukle
+
+// The commands that copy or replace the database file, on the file the
+// window would open; what was done on standard output, a failure on standard
+// error with exit code 1.
+int VeriTabaniKomutu(const QStringList& args) {
+  const QString komut = args[0];
+  const bool geri = komut == QLatin1String("geriyukle");
+  if (args.size() != (geri ? 2 : 1))
+    return Hata(geri ? QStringLiteral("Kullanım: velmora geriyukle DOSYA")
+                     : QStringLiteral("Kullanım: velmora %1").arg(komut),
+                2);
+  const QString yol = Genel::VeriTabaniYolu();
+  const QDate bugun = QDate::currentDate();
+  try {
+    if (!QFile::exists(yol)) throw db::Hata(QStringLiteral("Veri tabanı bulunamadı: %1").arg(yol));
+    Genel::Baglanti.Ac(yol);
+    if (komut == QLatin1String("bakim")) {
+      const QString yedek = db::Sikistir(Genel::Baglanti, bugun);
+      Yaz(stdout, QStringLiteral("Veri Tabanı Bakımı Yapıldı\nEski dosya: %1\n").arg(yedek));
+    } else if (komut == QLatin1String("yedekle")) {
+      const QString yedek = db::TarihliYedekAl(Genel::Baglanti, bugun);
+      Yaz(stdout, QStringLiteral("Yedek alındı: %1\n").arg(yedek));
+    } else {
+      const QString kaynak = QFileInfo(args[1]).absoluteFilePath();
+      const QString yedek = db::GeriYukle(Genel::Baglanti, kaynak, bugun);
+      Yaz(stdout, QStringLiteral("Şimdiki veri tabanının yedeği: %1\nGeri yüklendi: %2\n")
+                      .arg(yedek, kaynak));
+    }
+  } catch (const db::Hata& h) {
+    const QString neden = komut == QLatin1String("bakim") ? QString::fromUtf8(bakim::kProblem)
+                          : geri ? QStringLiteral("Geri yükleme yapılamadı; veri tabanı değişmedi.")
+                                 : QStringLiteral("Yedek alınamadı.");
+    return Hata(neden + QLatin1Char('\n') + h.metin(), 1);
+  }
+  return 0;
+}
+
 void EkranlariKaydet() {
   master::FirmaEkraniKaydet();
   master::MusteriEkranlariKaydet();
@@ -260,6 +307,11 @@ int main(int argc, char** argv) {
     if (args[0] == QLatin1String("maliye")) {
       QCoreApplication uyg(argc, argv);
       return Maliye(args.mid(1));
+    }
+    if (args[0] == QLatin1String("bakim") || args[0] == QLatin1String("yedekle") ||
+        args[0] == QLatin1String("geriyukle")) {
+      QCoreApplication uyg(argc, argv);
+      return VeriTabaniKomutu(args);
     }
     if (args[0] == QLatin1String("yazdir")) {
       QCoreApplication uyg(argc, argv);

@@ -318,6 +318,32 @@ QWidget* Acik(const QString& ad) {
   return it != K().acik.end() ? it.value().data() : nullptr;
 }
 
+bool AcikEkranVar() {
+  for (const QPointer<QWidget>& w : K().acik)
+    if (w) return true;
+  return false;
+}
+
+bool EkranlariKapat() {
+  bool hepsi = true;
+  const QStringList adlar = K().acik.keys();
+  for (const QString& ad : adlar) {
+    QWidget* w = Acik(ad);
+    if (!w) {
+      K().acik.remove(ad);
+      continue;
+    }
+    QWidget* cerceve = w;
+    if (auto* alt = qobject_cast<QMdiSubWindow*>(w->parentWidget())) cerceve = alt;
+    // Closed screens are deleted later; they no longer count as open now.
+    if (cerceve->close())
+      K().acik.remove(ad);
+    else
+      hepsi = false;
+  }
+  return hepsi;
+}
+
 namespace {
 
 // A screen whose making or loading failed goes away whole, frame and all.

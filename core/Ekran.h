@@ -78,6 +78,12 @@ bool KayitliMi(const QString& ad);
 QWidget* Ac(const QString& ad);
 // The open screen of that name, or nullptr.
 QWidget* Acik(const QString& ad);
+// Whether any screen is open.
+bool AcikEkranVar();
+// Closes every open screen, as its close command would (before the
+// connection under them goes away). False when one refused to close (a job
+// still running in it); the others are closed all the same.
+bool EkranlariKapat();
 
 // Menu commands that are no screen (maintenance, upgrades) register here.
 void KomutKaydet(const QString& ad, std::function<void()> komut);

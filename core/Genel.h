@@ -51,8 +51,10 @@ QString WindowsDizini();   // the settings folder; empty when it cannot be made
 // --- settings file
 QString IniOku(const QString& Dosya, const QString& Bolum, const QString& Anahtar,
                const QString& Varsayilan);
-void IniYaz(const QString& Dosya, const QString& Bolum, const QString& Anahtar,
-            const QString& Deger);
+// False, with the system's reason in `hata` when given, when the file could
+// not be written; the settings screen doesn't look.
+bool IniYaz(const QString& Dosya, const QString& Bolum, const QString& Anahtar,
+            const QString& Deger, QString* hata = nullptr);
 // Finds the thousands separator; false when the regional form has none (the
 // start-up tells the clerk, and BinlikAyirici stays empty).
 bool BinlikAyiriciBul();

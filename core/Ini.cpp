@@ -96,8 +96,8 @@ QString IniOku(const QString& Dosya, const QString& Bolum, const QString& Anahta
   return Oku(IniYukle(Dosya), Bolum, Anahtar, Varsayilan);
 }
 
-void IniYaz(const QString& Dosya, const QString& Bolum, const QString& Anahtar,
-            const QString& Deger) {
+bool IniYaz(const QString& Dosya, const QString& Bolum, const QString& Anahtar,
+            const QString& Deger, QString* hata) {
   QString deger = Deger;
   deger.replace(QLatin1Char('\r'), QLatin1Char(' '));
   deger.replace(QLatin1Char('\n'), QLatin1Char(' '));
@@ -128,9 +128,15 @@ void IniYaz(const QString& Dosya, const QString& Bolum, const QString& Anahtar,
   }
 
   QSaveFile f(Dosya);
-  if (!f.open(QIODevice::WriteOnly)) return;
-  f.write((m.satirlar.join(m.satirSonu) + m.satirSonu).toUtf8());
-  if (f.commit()) QFile::setPermissions(Dosya, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+  if (f.open(QIODevice::WriteOnly)) {
+    f.write((m.satirlar.join(m.satirSonu) + m.satirSonu).toUtf8());
+    if (f.commit()) {
+      QFile::setPermissions(Dosya, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+      return true;
+    }
+  }
+  if (hata) *hata = f.errorString();
+  return false;
 }
 
 bool BinlikAyiriciBul() {

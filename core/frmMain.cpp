@@ -10,12 +10,14 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "core/BakimKomut.h"
 #include "core/Ekran.h"
 #include "core/Genel.h"
 #include "core/Mesaj.h"
 #include "core/frmIni.h"
 #include "db/Kayitlar.h"
 #include "db/Sema.h"
+#include "db/Yedek.h"
 
 // --- background
 
@@ -115,6 +117,8 @@ frmMain::frmMain() {
                       QStringLiteral("mnuAyarYedek"));
   mnuBakim =
       Ekle(mnuDosya, "mnuBakim", QStringLiteral("Veri Tabanı Bakımı"), QStringLiteral("mnuBakim"));
+  mnuGeriYukle = Ekle(mnuDosya, "mnuGeriYukle", QStringLiteral("Yedekten Geri Yükle"),
+                      QStringLiteral("frmGeriYukle"));
   mnuCikis = Ekle(mnuDosya, "mnuCikis", QStringLiteral("Çıkış"), [] { QApplication::exit(0); });
 
   mnuMusteri = menuBar()->addAction(QStringLiteral("Müşteri"));
@@ -173,6 +177,7 @@ frmMain::frmMain() {
 
   ekran::Kaydet(QStringLiteral("frmhakkinda"), [] { return new frmhakkinda; });
   ekran::Kaydet(QStringLiteral("frmIni"), [] { return new frmIni; });
+  bakim::KomutlariKaydet();
   MenuDurumu();
   for (QMenu* m : {mnuDosya, mnuIslem, mnuRapor, mnuAbout1})
     connect(m, &QMenu::aboutToShow, this, &frmMain::MenuDurumu);
@@ -230,6 +235,7 @@ bool frmMain::Form_Load() {
   try {
     Genel::AyarOku();
     VeriTabaniAc();
+    GunlukYedek();
     FirmaOku();
   } catch (const std::exception&) {
     // A file that opened stays open, so that the firm screen can mend its row.
@@ -260,6 +266,25 @@ void frmMain::VeriTabaniAc() {
   } else {
     Genel::Baglanti.Olustur(yol);
   }
+}
+
+void frmMain::GunlukYedek() {
+  try {
+    db::GunlukYedekAl(Genel::Baglanti, QDate::currentDate());
+  } catch (const db::Hata& h) {
+    mesaj::Uyari(QStringLiteral("Günlük yedek alınamadı.\n") + h.metin(), QStringLiteral("UYARI"));
+  }
+}
+
+void frmMain::FirmaYenile() {
+  try {
+    FirmaOku();
+  } catch (const db::Hata&) {
+    // The firm screen mends a row that can't be read; the title stays empty.
+    Genel::FirmaAdi.clear();
+  }
+  setWindowTitle(Baslik(Genel::FirmaAdi));
+  if (arka) arka->Form_Load();
 }
 
 void frmMain::FirmaOku() {

@@ -54,6 +54,12 @@ class frmMain : public QMainWindow {
   // Reads the office's row into the globals; throws when it is missing or
   // holds a Null in one of the columns read.
   static void FirmaOku();
+  // Reads the firm's row again after the database file changed under the
+  // program (a restore), with the title and the background.
+  void FirmaYenile();
+  // The day's backup on the first start of a day; a failure is told and the
+  // start goes on.
+  static void GunlukYedek();
   void ArkaPlan();
   // The title the window gets from the firm's name.
   static QString Baslik(const QString& firmaAdi);
@@ -62,7 +68,7 @@ class frmMain : public QMainWindow {
   frmbackground* arka = nullptr;
 
   QMenu *mnuDosya, *mnuIslem, *mnuRapor, *mnuAbout1;
-  QAction *mnuFirma, *mnuAraGuncel, *mnuAyarYedek, *mnuBakim, *mnuCikis;
+  QAction *mnuFirma, *mnuAraGuncel, *mnuAyarYedek, *mnuBakim, *mnuGeriYukle, *mnuCikis;
   QAction* mnuMusteri;
   QAction *mnuOdunc, *mnuSozlesmeAll, *mnuHesap, *mnuTahsilat, *mnuSozNoDegis, *mnuKur;
   QAction *mnuMusteriBilgi, *mnuCari, *mnuKesideci, *mnuGelir, *mnuMaliye;

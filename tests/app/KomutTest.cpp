@@ -1,6 +1,9 @@
 // velmora yazdir: the same bytes as the buttons, to the file given or the
 // configured printer; a refusal on standard error with exit code 2.
 
+#include <QDate>
+#include <QDir>
+#include <QFile>
 #include <QProcess>
 
 #include "contract/SozlesmeYazdir.h"
@@ -10,6 +13,8 @@
 #include "tests/invoice/FaturaEkran.h"
 
 namespace {
+
+using namespace Qt::StringLiterals;
 
 class Komut : public test::FaturaEkran {
  protected:
@@ -140,12 +145,81 @@ TEST_F(Komut, RetlerVeHatalar) {
   EXPECT_TRUE(p.readAllStandardError().startsWith("Veri tabanı bulunamadı: "));
 }
 
+// velmora bakim, yedekle, geriyukle: what was done on standard output, a
+// failure with its reason on standard error and exit code 1.
+TEST_F(Komut, VeriTabaniKomutlari) {
+  Genel::Baglanti.Kapat();
+  const QString db = Yol("velmora.db");
+  const QString yedek = Yol("velmora_") + QDate::currentDate().toString("ddMMyyyy") + ".db";
+  const auto musteriler = [](const QString& yol) {
+    db::Baglanti b;
+    b.Ac(yol, db::Baglanti::Kip::SadeceOku);
+    return b.Deger("SELECT count(*) FROM Musteri").toInt();
+  };
+  const int adet = musteriler(db);
+  ASSERT_GT(adet, 0);
+
+  Sonuc s = Velmora({"yedekle"});
+  EXPECT_EQ(s.kod, 0) << s.hata.toStdString();
+  EXPECT_EQ(QString::fromUtf8(s.cikti), "Yedek alındı: " + yedek + "\n");
+  ASSERT_TRUE(QFile::copy(yedek, Yol("velmora_01012020.db")));
+
+  s = Velmora({"bakim"});
+  EXPECT_EQ(s.kod, 0) << s.hata.toStdString();
+  EXPECT_EQ(QString::fromUtf8(s.cikti), "Veri Tabanı Bakımı Yapıldı\nEski dosya: " + yedek + "\n");
+
+  // Restore of a file that is no database: refused, nothing changed.
+  QFile metin(Yol("metin.db"));
+  ASSERT_TRUE(metin.open(QIODevice::WriteOnly) && metin.write(QByteArray(2000, 'x')) == 2000);
+  metin.close();
+  const QByteArray once = Dosya(db);
+  s = Velmora({"geriyukle", metin.fileName()});
+  EXPECT_EQ(s.kod, 1);
+  EXPECT_TRUE(QString::fromUtf8(s.hata).startsWith(
+      "Geri yükleme yapılamadı; veri tabanı değişmedi.\nDosya bir veri tabanı değil"))
+      << s.hata.toStdString();
+  EXPECT_TRUE(s.cikti.isEmpty());
+  EXPECT_EQ(Dosya(db), once);
+
+  // A good one, after the customers are gone.
+  Genel::Baglanti.Ac(db);
+  Calistir("DELETE FROM Musteri");
+  Genel::Baglanti.Kapat();
+  s = Velmora({"geriyukle", Yol("velmora_01012020.db")});
+  EXPECT_EQ(s.kod, 0) << s.hata.toStdString();
+  EXPECT_EQ(QString::fromUtf8(s.cikti), "Şimdiki veri tabanının yedeği: " + yedek +
+                                            "\nGeri yüklendi: " + Yol("velmora_01012020.db") +
+                                            "\n");
+  EXPECT_EQ(musteriler(db), adet);
+  EXPECT_EQ(musteriler(yedek), 0);
+
+  // Maintenance that can't put its new file down: the message, exit 1.
+  ASSERT_TRUE(QDir().mkdir(Yol("velmora_new.db")));
+  s = Velmora({"bakim"});
+  EXPECT_EQ(s.kod, 1);
+  EXPECT_TRUE(QString::fromUtf8(s.hata).startsWith(
+      u"Bir Problem Oldu, Program Kullanılıyor Olabilir, Çıkıp Tekrar Deneyin\n"_s))
+      << s.hata.toStdString();
+  EXPECT_EQ(musteriler(db), adet);
+
+  EXPECT_EQ(Velmora({"geriyukle"}).kod, 2);
+  EXPECT_EQ(Velmora({"yedekle", "fazla"}).kod, 2);
+  // No database in the folder given.
+  QProcess p;
+  p.start(VELMORA_PROGRAM, {"--veri", ayarDizini() + "/bos", "--ayar", ayarDizini(), "yedekle"});
+  ASSERT_TRUE(p.waitForFinished(60000));
+  EXPECT_EQ(p.exitCode(), 1);
+  EXPECT_TRUE(p.readAllStandardError().startsWith("Yedek alınamadı.\nVeri tabanı bulunamadı: "));
+  Genel::Baglanti.Ac(db);
+}
+
 TEST_F(Komut, YardimListeler) {
   const Sonuc s = Velmora({"--help"});
   EXPECT_EQ(s.kod, 0);
   for (const char* satir : {"velmora yazdir sozlesme SOZLESMEID [--cikti DOSYA]",
                             "velmora yazdir fatura SOZLESMEID [--cikti DOSYA]",
-                            "velmora yazdir ekfatura SERI NO [--cikti DOSYA]"})
+                            "velmora yazdir ekfatura SERI NO [--cikti DOSYA]", "velmora bakim",
+                            "velmora yedekle", "velmora geriyukle DOSYA"})
     EXPECT_TRUE(s.cikti.contains(satir)) << satir;
 }
 
