@@ -11,6 +11,12 @@ class Baglanti;
 // transaction.
 void SemaOlustur(Baglanti& b);
 
+// Adds the indexes of the reports to a file made before they were part of
+// the schema (once: an index already there is left alone), and drops the
+// narrower index they replace. Called on a new file too, so that both get
+// the same.
+void IndeksleriTamamla(Baglanti& b);
+
 // Puts the delivered print template into SozlesmeTanim when the table is
 // empty (a new database, or an office that never had one); true when it did.
 bool SablonBossaYukle(Baglanti& b);
