@@ -263,6 +263,13 @@ void frmMain::VeriTabaniAc() {
       db::SablonBossaYukle(Genel::Baglanti);
     } catch (const db::Hata&) {
     }
+    // A file from before the reports' indexes gets them now (on a large file
+    // this takes a few seconds, once); one that can't take them now still
+    // opens, only its reports are slower.
+    try {
+      db::IndeksleriTamamla(Genel::Baglanti);
+    } catch (const db::Hata&) {
+    }
   } else {
     Genel::Baglanti.Olustur(yol);
   }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstring>
+#include <limits>
 #include <numeric>
 
 #include "db/Baglanti.h"
@@ -12,9 +13,7 @@ namespace db {
 
 namespace {
 
-bool Sayisal(const QVariant& v) {
-  return TamSayiTuru(v.typeId()) || KesirliSayiTuru(v.typeId());
-}
+bool Sayisal(const QVariant& v) { return TamSayiTuru(v.typeId()) || KesirliSayiTuru(v.typeId()); }
 
 // A whole text read as a number, blanks around it allowed, "." as the
 // decimal point.
@@ -141,6 +140,36 @@ bool Kayitlar::FindIf(const std::function<bool(const Kayitlar&)>& kosul, bool ba
 void Kayitlar::Requery() {
   if (!kaynak_) return;
   Doldur(kaynak_, sql_, param_);
+}
+
+bool Kayitlar::SatirYenile(const QString& alan, const QVariant& anahtar, const QString& sql,
+                           const QVariantList& deger) {
+  if (!kaynak_) return false;
+  sira_.clear();
+  yer_.clear();
+  const bool bulundu = Find(alan, anahtar, true);
+  const int satir = konum_;
+  konum_ = 0;
+  Kayitlar yeni;
+  if (bulundu) yeni.Doldur(kaynak_, sql, deger);
+  if (!bulundu || yeni.satirSayisi_ != 1 || yeni.alanlar_ != alanlar_) {
+    Requery();
+    return false;
+  }
+  // The new texts go behind the old ones; the old slices are left unused.
+  if (metinler_.size() + yeni.metinler_.size() >
+      qsizetype(std::numeric_limits<std::uint32_t>::max())) {
+    Requery();
+    return false;
+  }
+  const auto kaydir = std::uint32_t(metinler_.size());
+  metinler_.append(yeni.metinler_);
+  Hucre* h = &hucreler_[std::size_t(satir) * std::size_t(alanlar_.size())];
+  for (Hucre y : yeni.hucreler_) {
+    if (y.tur == Hucre::Yazi) y.yazi.bas += kaydir;
+    *h++ = y;
+  }
+  return true;
 }
 
 void Kayitlar::Sort(const QString& alan, bool artan) {

@@ -71,6 +71,15 @@ class Kayitlar {
   // Re-runs the query that filled the set, in the query's own order; the
   // position goes to the first row.
   void Requery();
+  // A Requery that reads again only the row whose `alan` holds `anahtar`,
+  // through `sql`, which must give that one row with the set's fields (its
+  // values bound from `deger`). It is for a set whose other rows the caller
+  // knows unchanged, where reading them all again would cost more than the
+  // change: the set goes back to the query's order and to the first row, as
+  // after a Requery. When the row is missing, or the statement gives another
+  // shape, the whole set is read again. True when only the row was read.
+  bool SatirYenile(const QString& alan, const QVariant& anahtar, const QString& sql,
+                   const QVariantList& deger);
 
   // Sorts by a field: Null first, then numbers by value, then texts in
   // Turkish order; rows that tie keep their order. Keeps the current row,

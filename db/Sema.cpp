@@ -36,7 +36,6 @@ CREATE TABLE SozlesmeDetay (
   SozlesmeNo INTEGER, Tip TEXT, Kesideci TEXT, Banka TEXT, Sube TEXT, HesapNo TEXT, CekNo TEXT,
   Vadesi TEXT, Odenmesi TEXT, Gun INTEGER, Meblag REAL, Doviz TEXT DEFAULT 'TRL',
   Karsilik TEXT DEFAULT 'Var', MeblagTL REAL);
-CREATE INDEX SozlesmeDetay_Sozlesme ON SozlesmeDetay(SozlesmeID);
 CREATE INDEX SozlesmeDetay_SeriNo ON SozlesmeDetay(SozlesmeSeri, SozlesmeNo);
 CREATE INDEX SozlesmeDetay_Vadesi ON SozlesmeDetay(Vadesi);
 CREATE INDEX SozlesmeDetay_Odenmesi ON SozlesmeDetay(Odenmesi);
@@ -120,6 +119,23 @@ FROM (Musteri INNER JOIN Sozlesme ON Musteri.MusteriNo = Sozlesme.MusteriNo)
      LEFT JOIN Fatura ON Sozlesme.SozlesmeID = Fatura.SozlesmeID
 ORDER BY Sozlesme.MusteriNo;
 )SQL";
+
+// Indexes of the reports, with the index each one makes unnecessary (or
+// none). The lines of a contract are found through the first, in the order
+// they were entered, as through the index it replaces; it also holds every
+// column the customer status grid reads, so that the grid adds up the lines
+// without reading their table. The second finds a drawer's papers, and
+// holds what the ranking of drawers adds up.
+struct Indeks {
+  const char* ad;
+  const char* tanim;
+  const char* yerine;
+};
+const Indeks kIndeksler[] = {
+    {"SozlesmeDetay_SozlesmeDurum", "SozlesmeDetay(SozlesmeID, GirisNo, Odenmesi, Meblag, Vadesi)",
+     "SozlesmeDetay_Sozlesme"},
+    {"SozlesmeDetay_Kesideci", "SozlesmeDetay(Kesideci, Odenmesi, Meblag)", nullptr},
+};
 
 const char* const kIller[] = {
     "Adana",     "Adıyaman",  "Afyonkarahisar", "Ağrı",          "Amasya",    "Ankara",
@@ -298,6 +314,25 @@ const QStringList& Iller() {
   return liste;
 }
 
+void IndeksleriTamamla(Baglanti& b) {
+  QStringList eksik;
+  for (const Indeks& i : kIndeksler)
+    if (NullMu(b.Deger(
+            QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'index' AND name = ?"),
+            {QString::fromLatin1(i.ad)})))
+      eksik << QString::fromLatin1(i.ad);
+  if (eksik.isEmpty()) return;
+  Islem islem(b);
+  for (const Indeks& i : kIndeksler) {
+    if (!eksik.contains(QString::fromLatin1(i.ad))) continue;
+    b.Calistir(QStringLiteral("CREATE INDEX IF NOT EXISTS %1 ON %2")
+                   .arg(QString::fromLatin1(i.ad), QString::fromLatin1(i.tanim)));
+    if (i.yerine)
+      b.Calistir(QStringLiteral("DROP INDEX IF EXISTS %1").arg(QString::fromLatin1(i.yerine)));
+  }
+  islem.Onayla();
+}
+
 bool SablonBossaYukle(Baglanti& b) {
   if (!NullMu(b.Deger(QStringLiteral("SELECT ID FROM SozlesmeTanim LIMIT 1")))) return false;
   Islem islem(b);
@@ -328,6 +363,7 @@ void SemaOlustur(Baglanti& b) {
   b.Calistir(QString::fromUtf8(kTablolar));
   HesapTablolariOlustur(b);
   GorunumleriKur(b);
+  IndeksleriTamamla(b);
   for (int i = 0; i < Iller().size(); ++i)
     b.Calistir(QStringLiteral("INSERT INTO Il_Trafik_Kodu(IlKod, Il) VALUES (?, ?)"),
                {i + 1, Iller()[i]});

@@ -17,6 +17,12 @@ void HesapTablolariOlustur(Baglanti& b);
 // Lays the three views anew (dropping those that stand), in one transaction.
 void GorunumleriKur(Baglanti& b);
 
+// Adds the indexes of the reports to a file made before they were part of
+// the schema (once: an index already there is left alone), and drops the
+// narrower index they replace. Called on a new file too, so that both get
+// the same.
+void IndeksleriTamamla(Baglanti& b);
+
 // Puts the delivered print template into SozlesmeTanim when the table is
 // empty (a new database, or an office that never had one); true when it did.
 bool SablonBossaYukle(Baglanti& b);

@@ -33,7 +33,9 @@ const char* const kBelgeler =
 
 Sorgu AramaSorgusu(const QString& metin, bool basta) {
   Sorgu q;
-  q.metin = QStringLiteral("SELECT Kesideci FROM SozlesmeDetay WHERE Kesideci LIKE ? ESCAPE '\\'");
+  // In the order the papers were entered, whichever index the engine reads.
+  q.metin = QStringLiteral(
+      "SELECT Kesideci FROM SozlesmeDetay WHERE Kesideci LIKE ? ESCAPE '\\' ORDER BY GirisNo");
   q.deger << (basta ? QString() : QStringLiteral("%")) + Kacisli(metin) + QStringLiteral("%");
   return q;
 }

@@ -65,6 +65,11 @@ QString ListeSorgusu(const Kosul& k) {
       .arg(QLatin1String(kListeAlanlari), k.metin);
 }
 
+QString SatirSorgusu() {
+  return QStringLiteral("SELECT %1 FROM SozlesmeDetay WHERE GirisNo = ?")
+      .arg(QLatin1String(kListeAlanlari));
+}
+
 QString ToplamSorgusu(const Kosul& k) {
   return QStringLiteral(
              "SELECT Durum, count(GirisNo) AS Adet, sum(Meblag) AS Tutar FROM CekDurum%1 "

@@ -34,6 +34,10 @@ Kosul KosulKur(const Secim& s);
 QString ListeSorgusu(const Kosul& k);
 QString ToplamSorgusu(const Kosul& k);
 
+// The statement of one line of the list, by its GirisNo: what a state change
+// reads again instead of the whole list.
+QString SatirSorgusu();
+
 // The columns of the list, in the order they are shown.
 extern const char* const kListeAlanlari;
 

@@ -212,10 +212,11 @@ void frmTahsilat::DurumDegistir() {
   if (cevap == QStringLiteral("Vazgeç")) return;
 
   // A failed write (another program holding the file past the waiting time)
-  // is shown; the grid is read again either way, so it shows what the
-  // database holds.
+  // is shown; the line is read again either way, so it shows what the
+  // database holds. Only the state of this line changed: the rest of the list
+  // isn't read again.
   ekran::Korumali([&] { tahsilat::DurumYaz(giris, tahsilat::OdemeDegeri(cevap)); });
-  rsCek.Requery();
+  rsCek.SatirYenile(QStringLiteral("GirisNo"), giris, tahsilat::SatirSorgusu(), {giris});
   grdCek->Model()->Yenile();
   grdCek->Model()->Uygula(grdCek);
   if (!rsCek.Find(QStringLiteral("GirisNo"), giris, true)) rsCek.MoveFirst();

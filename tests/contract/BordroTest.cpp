@@ -199,7 +199,8 @@ TEST_F(BordroTest, EnCokSatirliSozlesmeTekSayfadaSorguIndeksle) {
   for (plan.MoveFirst(); !plan.Eof(); plan.MoveNext())
     adimlar << plan.Metin(QStringLiteral("detail"));
   const QString p = adimlar.join(QStringLiteral(" | "));
-  EXPECT_TRUE(p.contains(QStringLiteral("USING INDEX SozlesmeDetay_Sozlesme"))) << p.toStdString();
+  EXPECT_TRUE(p.contains(QStringLiteral("USING INDEX SozlesmeDetay_SozlesmeDurum")))
+      << p.toStdString();
   EXPECT_FALSE(p.contains(QStringLiteral("SCAN"))) << p.toStdString();
 }
 

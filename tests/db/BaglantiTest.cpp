@@ -290,6 +290,42 @@ TEST_F(Baglanti, KayitlarFindSortBookmarkRequery) {
   EXPECT_EQ(rs.AbsolutePosition(), 1);
 }
 
+// One row read again: its new texts and Nulls, the rest left as loaded (a
+// row the statement doesn't see stays unchanged), the query's order and the
+// first row as after a Requery. A row gone from the table, or a statement of
+// another shape, reads the whole set again.
+TEST_F(Baglanti, KayitlarSatirYenile) {
+  for (int i = 1; i <= 4; ++i) MusteriEkle(i, QString("Ad%1").arg(i));
+  const QString satir = "SELECT MusteriNo, Soyadi, Adi FROM Musteri WHERE MusteriNo = ?";
+  db::Kayitlar rs = b_.Sorgu("SELECT MusteriNo, Soyadi, Adi FROM Musteri ORDER BY MusteriNo");
+  const auto sira = [&] {
+    QStringList l;
+    for (int r = 0; r < rs.RecordCount(); ++r)
+      l << rs.Deger(r, 1).toString() +
+               (db::NullMu(rs.Deger(r, 2)) ? "" : "/" + rs.Deger(r, 2).toString());
+    return l.join(' ');
+  };
+  rs.Sort("MusteriNo", false);
+  rs.setAbsolutePosition(2);
+  b_.Calistir("UPDATE Musteri SET Soyadi = 'Şahin uzun bir ad', Adi = 'Ali' WHERE MusteriNo = 3");
+  b_.Calistir("UPDATE Musteri SET Soyadi = 'Başka' WHERE MusteriNo = 4");
+  EXPECT_TRUE(rs.SatirYenile("MusteriNo", 3, satir, {3}));
+  EXPECT_EQ(sira(), u"Ad1 Ad2 Şahin uzun bir ad/Ali Ad4"_s);
+  EXPECT_EQ(rs.AbsolutePosition(), 1);
+  b_.Calistir("UPDATE Musteri SET Soyadi = NULL, Adi = NULL WHERE MusteriNo = 3");
+  EXPECT_TRUE(rs.SatirYenile("MusteriNo", 3, satir, {3}));
+  EXPECT_EQ(sira(), u"Ad1 Ad2  Ad4"_s);
+  EXPECT_TRUE(db::NullMu(rs.Deger(2, 1)));
+
+  b_.Calistir("DELETE FROM Musteri WHERE MusteriNo = 2");
+  EXPECT_FALSE(rs.SatirYenile("MusteriNo", 2, satir, {2}));
+  EXPECT_EQ(sira(), u"Ad1  Başka"_s);
+  b_.Calistir("UPDATE Musteri SET Soyadi = 'Yeni' WHERE MusteriNo = 1");
+  EXPECT_FALSE(
+      rs.SatirYenile("MusteriNo", 1, "SELECT MusteriNo FROM Musteri WHERE MusteriNo = ?", {1}));
+  EXPECT_EQ(sira(), u"Yeni  Başka"_s);
+}
+
 // --- transactions and locks
 
 TEST_F(Baglanti, IslemHataVerenKomuttaHicIzBirakmaz) {
