@@ -1,5 +1,6 @@
 #include "contract/rptBordro.h"
 
+#include "contract/BordroOrtak.h"
 #include "contract/Faiz.h"
 #include "core/Genel.h"
 
@@ -79,11 +80,9 @@ BordroSatiri SatirHesapla(const db::Kayitlar& rs, const Alanlar& a, int i) {
 
 // --- layout, millimetres on landscape A4 (277 wide inside the margins)
 
-struct Sutun {
-  const char* baslik;
-  double x, genislik;
-  bool sag;  // numbers stand to the right
-};
+using bordro::kSatir;
+using bordro::Sutun;
+using bordro::Yer;
 
 // Label1 to Label8, Label11, Label10, Label9 from left to right.
 constexpr Sutun kTip{"Tip", 0, 12, false};
@@ -99,32 +98,22 @@ constexpr Sutun kFaiz{"Faiz", 231, 22, true};
 constexpr Sutun kOdenecek{"Ödenecek", 254, 23, true};
 constexpr double kGenislik = 277;
 
-constexpr double kSatir = 5;  // height of a line of text
 const QString kTutarBicimi = QStringLiteral("###,###,###,###,##0.00");
 const QString kFaizBicimi = QStringLiteral("#.##0,00");  // Faiz and every sum
 
-QRectF Yer(const Sutun& s, double y) { return {s.x, y, s.genislik, kSatir}; }
-
-rapor::Yazi Hizala(rapor::Yazi y, const Sutun& s) { return s.sag ? y.Sag() : y; }
-
 void SayfaBasligi(rapor::Bant& b, const BordroEtiketleri& e) {
-  using rapor::Yazi;
-  // lblMusteri, lblSozlesmeNo on the left; lblTarih, lblFaizOran on the right.
-  b.Ekle(Yazi::Sabit(QStringLiteral("Müşteri:   ") + e.Musteri, {0, 0, 190, 6}).Punto(11).Kalin());
-  b.Ekle(Yazi::Sabit(QStringLiteral("Tarih: ") + e.Tarih, {197, 0, 80, 6}).Punto(10).Sag());
-  b.Ekle(Yazi::Sabit(QStringLiteral("Sözleşme No: ") + e.Seri + QLatin1Char(' ') + e.SozlesmeNo,
-                     {0, 7, 190, 6})
-             .Punto(10));
-  b.Ekle(
-      Yazi::Sabit(QStringLiteral("Faiz Oranı:   ") + e.FaizOran, {197, 7, 80, 6}).Punto(10).Sag());
-  b.Ekle(Yazi::Sabit(QStringLiteral("Alınan Belgeler:"), {0, 16, 80, 6}).Punto(10).Kalin());
-  for (const Sutun& s : {kTip, kKesideci, kBanka, kSube, kHesapNo, kCekNo, kVadesi, kGunu, kMeblag,
-                         kFaiz, kOdenecek})
-    b.Ekle(Hizala(Yazi::Sabit(QString::fromUtf8(s.baslik), Yer(s, 23)).Kalin(), s));
-  rapor::Cizgi alti = rapor::Cizgi::Yatay(0, 28.5, kGenislik);
-  alti.kalinlik = 0.4;
-  b.Ekle(alti);
-  b.yukseklik = 30;
+  const bordro::Baslik baslik{.Musteri = e.Musteri,
+                              .Tarih = e.Tarih,
+                              .SozlesmeNo = e.Seri + QLatin1Char(' ') + e.SozlesmeNo,
+                              .FaizOran = e.FaizOran,
+                              .solGenislik = 190,
+                              .sagX = 197,
+                              .sagGenislik = 80,
+                              .cizgiX = 0,
+                              .sagKenar = kGenislik};
+  bordro::SayfaBasligi(b, baslik,
+                       {kTip, kKesideci, kBanka, kSube, kHesapNo, kCekNo, kVadesi, kGunu, kMeblag,
+                        kFaiz, kOdenecek});
 }
 
 // A figure of the row being drawn; the report's rows are those of `satirlar`.
@@ -161,9 +150,7 @@ void Detay(rapor::Bant& b, const QVector<BordroSatiri>& satirlar) {
              .Bicim(kTutarBicimi)
              .Sag());
   for (Yazi& y : b.yazilar) y.punto = 8.5;
-  rapor::Cizgi cizgi = rapor::Cizgi::Yatay(0, 5.3, kGenislik);  // Line2
-  cizgi.kalinlik = 0.1;
-  b.Ekle(cizgi);
+  b.Ekle(bordro::Cizgi(0, 5.3, kGenislik, 0.1));  // Line2
   // A contract of DetayLimit's default 22 lines fits one page with its footer.
   b.yukseklik = 5.5;
 }
@@ -172,9 +159,7 @@ void RaporAltligi(rapor::Bant& b, const Bordro& veri, const BordroEtiketleri& e)
   using rapor::Yazi;
   const QString ortGun = faiz::ParaYazisi(e.OrtGun);
   const auto toplam = [](double d) { return [d](const rapor::Baglam&) { return QVariant(d); }; };
-  rapor::Cizgi cizgi = rapor::Cizgi::Yatay(0, 1, kGenislik);  // Line1
-  cizgi.kalinlik = 0.4;
-  b.Ekle(cizgi);
+  b.Ekle(bordro::Cizgi(0, 1, kGenislik, 0.4));  // Line1
 
   // Under the columns: the average day and the three sums (lblOrtGun, Function1-3).
   b.Ekle(Yazi::Sabit(QStringLiteral("Ortalama ve Toplam:"), {kGunu.x - 61, 2, 60, kSatir})
@@ -191,21 +176,14 @@ void RaporAltligi(rapor::Bant& b, const Bordro& veri, const BordroEtiketleri& e)
 
   // Below, label and value (Label13 lblOrtGun2, Label14 Function5, Label12
   // Function6, Label15 Function7).
-  constexpr double etiketX = 200, degerX = 237, degerGenislik = 40;
-  double y = 10;
-  const auto satir = [&](const QString& etiket, const Yazi& deger) {
-    b.Ekle(Yazi::Sabit(etiket, {etiketX, y, degerX - etiketX, kSatir}).Punto(10));
-    Yazi d = deger;
-    d.yer = {degerX, y, degerGenislik, kSatir};
-    b.Ekle(d.Sag().Punto(10).Kalin());
-    y += kSatir + 0.5;
-  };
-  satir(QStringLiteral("Ortalama Gün:"), Yazi::Sabit(ortGun, {}));
-  satir(QStringLiteral("Toplam:"), Yazi::Hesap(toplam(veri.ToplamMeblag), {}).Bicim(kFaizBicimi));
-  satir(QStringLiteral("Faiz Tutarı:"),
-        Yazi::Hesap(toplam(veri.ToplamFaiz), {}).Bicim(kFaizBicimi));
-  satir(QStringLiteral("Ödenecek: "),
-        Yazi::Hesap(toplam(veri.ToplamOdenecek), {}).Bicim(kFaizBicimi));
+  bordro::DegerSatirlari satirlar(b, 200, 237, 40, 10);
+  satirlar.Ekle(QStringLiteral("Ortalama Gün:"), Yazi::Sabit(ortGun, {}));
+  satirlar.Ekle(QStringLiteral("Toplam:"),
+                Yazi::Hesap(toplam(veri.ToplamMeblag), {}).Bicim(kFaizBicimi));
+  satirlar.Ekle(QStringLiteral("Faiz Tutarı:"),
+                Yazi::Hesap(toplam(veri.ToplamFaiz), {}).Bicim(kFaizBicimi));
+  satirlar.Ekle(QStringLiteral("Ödenecek: "),
+                Yazi::Hesap(toplam(veri.ToplamOdenecek), {}).Bicim(kFaizBicimi));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "contract/rptHesap.h"
 
+#include "contract/BordroOrtak.h"
 #include "contract/Faiz.h"
 #include "contract/SozlesOrtak.h"
 #include "core/Genel.h"
@@ -41,11 +42,9 @@ namespace {
 
 // --- layout, millimetres on portrait A4 (190 wide inside the margins)
 
-struct Sutun {
-  const char* baslik;
-  double x, genislik;
-  bool sag;  // numbers stand to the right
-};
+using bordro::kSatir;
+using bordro::Sutun;
+using bordro::Yer;
 
 // The column heads from left to right, over Vadesi, Gunu, Faiz and Meblag; the
 // table ends at the right margin, where the header and the foot end too.
@@ -55,28 +54,20 @@ constexpr Sutun kFaiz{"Faiz", 110, 38, true};
 constexpr Sutun kMeblag{"Tutar", 150, 40, true};
 constexpr double kGenislik = 190;
 
-constexpr double kSatir = 5;  // height of a line of text
 const QString kTutarBicimi = QStringLiteral("#.##0,00");
 
-QRectF Yer(const Sutun& s, double y) { return {s.x, y, s.genislik, kSatir}; }
-
 void SayfaBasligi(rapor::Bant& b, const HesapBordroEtiketleri& e) {
-  using rapor::Yazi;
-  // lblMusteri, lblSozlesmeNo on the left; lblTarih, lblFaizOran on the right.
-  b.Ekle(Yazi::Sabit(QStringLiteral("Müşteri:   ") + e.Musteri, {0, 0, 120, 6}).Punto(11).Kalin());
-  b.Ekle(Yazi::Sabit(QStringLiteral("Tarih: ") + e.Tarih, {120, 0, 70, 6}).Punto(10).Sag());
-  b.Ekle(Yazi::Sabit(QStringLiteral("Sözleşme No: Hesaplama"), {0, 7, 120, 6}).Punto(10));
-  b.Ekle(
-      Yazi::Sabit(QStringLiteral("Faiz Oranı:   ") + e.FaizOran, {120, 7, 70, 6}).Punto(10).Sag());
-  b.Ekle(Yazi::Sabit(QStringLiteral("Alınan Belgeler:"), {0, 16, 80, 6}).Punto(10).Kalin());
-  for (const Sutun& s : {kVadesi, kGunu, kFaiz, kMeblag}) {
-    Yazi y = Yazi::Sabit(QString::fromUtf8(s.baslik), Yer(s, 23)).Kalin();
-    b.Ekle(s.sag ? y.Sag() : y);
-  }
-  rapor::Cizgi alti = rapor::Cizgi::Yatay(kVadesi.x, 28.5, kGenislik - kVadesi.x);
-  alti.kalinlik = 0.4;
-  b.Ekle(alti);
-  b.yukseklik = 30;
+  // A calculation has no number: the header says what it is instead.
+  const bordro::Baslik baslik{.Musteri = e.Musteri,
+                              .Tarih = e.Tarih,
+                              .SozlesmeNo = QStringLiteral("Hesaplama"),
+                              .FaizOran = e.FaizOran,
+                              .solGenislik = 120,
+                              .sagX = 120,
+                              .sagGenislik = 70,
+                              .cizgiX = kVadesi.x,
+                              .sagKenar = kGenislik};
+  bordro::SayfaBasligi(b, baslik, {kVadesi, kGunu, kFaiz, kMeblag});
 }
 
 void Detay(rapor::Bant& b) {
@@ -90,9 +81,7 @@ void Detay(rapor::Bant& b) {
 
 void RaporAltligi(rapor::Bant& b, const HesapBordroEtiketleri& e) {
   using rapor::Yazi;
-  rapor::Cizgi cizgi = rapor::Cizgi::Yatay(kVadesi.x, 1, kGenislik - kVadesi.x);
-  cizgi.kalinlik = 0.4;
-  b.Ekle(cizgi);
+  b.Ekle(bordro::Cizgi(kVadesi.x, 1, kGenislik - kVadesi.x, 0.4));
 
   // Under the columns: the average day and the sums, then the count of papers.
   b.Ekle(Yazi::Sabit(QStringLiteral("Ortalama ve Toplam:"), {0, 2, kGunu.x - 1, kSatir})
@@ -106,24 +95,16 @@ void RaporAltligi(rapor::Bant& b, const HesapBordroEtiketleri& e) {
 
   // Below, label and value. The tax and the fee are the same in every row:
   // the largest is the value itself.
-  constexpr double etiketX = kFaiz.x, degerX = kMeblag.x;
-  constexpr double degerGenislik = kMeblag.genislik;
-  double y = 16;
-  const auto satir = [&](const QString& etiket, const Yazi& deger) {
-    b.Ekle(Yazi::Sabit(etiket, {etiketX, y, degerX - etiketX, kSatir}).Punto(10));
-    Yazi d = deger;
-    d.yer = {degerX, y, degerGenislik, kSatir};
-    b.Ekle(d.Sag().Punto(10).Kalin());
-    y += kSatir + 0.5;
-  };
-  satir(QStringLiteral("Toplam:"), Yazi::Toplam(QStringLiteral("Meblag"), {}).Bicim(kTutarBicimi));
-  satir(QStringLiteral("Faiz Tutarı:"),
-        Yazi::Toplam(QStringLiteral("Faiz"), {}).Bicim(kTutarBicimi));
-  satir(QStringLiteral("BM Vergisi:"),
-        Yazi::EnBuyuk(QStringLiteral("BMVergisi"), {}).Bicim(kTutarBicimi));
-  satir(QStringLiteral("Masraf:"),
-        Yazi::EnBuyuk(QStringLiteral("TahsilMasrafi"), {}).Bicim(kTutarBicimi));
-  satir(QStringLiteral("Ödenecek Tutar: "), Yazi::Sabit(e.Odenecek, {}));  // label20
+  bordro::DegerSatirlari satirlar(b, kFaiz.x, kMeblag.x, kMeblag.genislik, 16);
+  satirlar.Ekle(QStringLiteral("Toplam:"),
+                Yazi::Toplam(QStringLiteral("Meblag"), {}).Bicim(kTutarBicimi));
+  satirlar.Ekle(QStringLiteral("Faiz Tutarı:"),
+                Yazi::Toplam(QStringLiteral("Faiz"), {}).Bicim(kTutarBicimi));
+  satirlar.Ekle(QStringLiteral("BM Vergisi:"),
+                Yazi::EnBuyuk(QStringLiteral("BMVergisi"), {}).Bicim(kTutarBicimi));
+  satirlar.Ekle(QStringLiteral("Masraf:"),
+                Yazi::EnBuyuk(QStringLiteral("TahsilMasrafi"), {}).Bicim(kTutarBicimi));
+  satirlar.Ekle(QStringLiteral("Ödenecek Tutar: "), Yazi::Sabit(e.Odenecek, {}));  // label20
 }
 
 }  // namespace
