@@ -24,9 +24,8 @@ QString frmSozles::MeblagYazisi(double deger) { return contract::MeblagYazisi(de
 // --- the grid
 
 void frmSozles::DetayAc() {
-  rsDetay =
-      Genel::Baglanti.Sorgu(contract::DetayIzgaraSorgusu(QStringLiteral("SozlesmeDetay"), true),
-                            contract::DetayIzgaraDegerleri(txtTarih->text(), ilaveGun, SozlesmeID));
+  rsDetay = contract::DetayIzgarasiAc(QStringLiteral("SozlesmeDetay"), true, txtTarih->text(),
+                                      ilaveGun, SozlesmeID);
   DetayBagla();
 }
 
@@ -57,29 +56,10 @@ void frmSozles::DetayBagla() {
 // --- totals
 
 void frmSozles::TutarHesap() {
-  faiz::Girdi girdi;
-  girdi.Tarih = Genel::TarihOku(txtTarih->text());
-  girdi.FaizOran = faiz::OranDegeri(txtFaizOran->text());
-  girdi.ilaveGun = ilaveGun;
-  girdi.Hesapla = Hesapla;
-  girdi.HaftaSonu = Genel::HaftaSonu;
-  girdi.OrtalamaGun = Genel::OrtalamaGun;
-
-  const std::vector<faiz::Satir> satirlar = contract::FaizSatirlari(rsDetay);
-  const faiz::Sonuc sonuc = faiz::TutarHesap(girdi, satirlar);
-  DetaySayisi = sonuc.DetaySayisi;
-  if (sonuc.GunYazisi) GunYazisi = *sonuc.GunYazisi;
-  if (sonuc.OrtGun) Genel::OrtGun = *sonuc.OrtGun;
-  if (sonuc.txtTutar) txtTutar->setText(*sonuc.txtTutar);
-  if (sonuc.txtFaizTutar) txtFaizTutar->setText(*sonuc.txtFaizTutar);
-  if (sonuc.txtOdenecek) txtOdenecek->setText(*sonuc.txtOdenecek);
-  if (sonuc.Odenecek) Odenecek = *sonuc.Odenecek;
-  if (sonuc.lblFaizGun) lblFaizGun->setText(*sonuc.lblFaizGun);
-
-  // The set stands behind its last row: no line is taken in until the clerk
-  // picks one in the grid.
-  rsDetay.Move(rsDetay.RecordCount());
-  dGridDetay->selectionModel()->clear();
+  const faiz::Girdi girdi = contract::FaizGirdisi(txtTarih, txtFaizOran, ilaveGun, Hesapla);
+  const faiz::Sonuc sonuc = faiz::TutarHesap(girdi, contract::FaizSatirlari(rsDetay));
+  contract::SonucuYaz(sonuc, contract::TutarKutulari(*this), DetaySayisi, GunYazisi, Odenecek);
+  contract::IzgaraSonunda(rsDetay, dGridDetay);
 }
 
 // --- the entry
@@ -195,10 +175,9 @@ void frmSozles::cmdDetayEkle_Click() {
     cmbTip->setFocus();
     cmbTip_Click();
   } catch (const db::Hata& h) {
-    mesaj::Kritik(HataMetni() + QLatin1Char('\n') + h.metin(), QStringLiteral("Hata Açıklaması"));
+    contract::DetayHatasi(h.metin());
   } catch (const Genel::SayiHatasi& h) {
-    mesaj::Kritik(HataMetni() + QLatin1Char('\n') + h.metin + QStringLiteral(" Sayı Değil"),
-                  QStringLiteral("Hata Açıklaması"));
+    contract::DetayHatasi(h.metin + QStringLiteral(" Sayı Değil"));
   }
 }
 
@@ -211,19 +190,14 @@ void frmSozles::SatiriAl() {
   txtSube->setText(metin("Sube"));
   txtHesapNo->setText(metin("HesapNo"));
   txtCekNo->setText(metin("CekNo"));
-  txtVade->setText(Genel::TarihEkran(rsDetay.Fields(QStringLiteral("Vadesi"))));
-  txtGun->setText(metin("Gun"));
-  const QVariant meblag = rsDetay.Fields(QStringLiteral("Meblag"));
-  txtMeblag->setText(db::NullMu(meblag) ? QString() : MeblagYazisi(meblag.toDouble()));
+  GirisNo = contract::SatiriGiriseAl(rsDetay, contract::GirisAlanlari(*this));
   const QString tip = metin("Tip");
   if (!tip.isEmpty()) cmbTip->setCurrentText(tip);
-  GirisNo = rsDetay.Fields(QStringLiteral("GirisNo")).toInt();
   cmbDoviz->setCurrentText(metin("Doviz"));
   for (QWidget* w : std::initializer_list<QWidget*>{txtKesideci, txtBanka, txtSube, txtHesapNo,
                                                     txtCekNo, txtVade, txtMeblag, cmbTip, cmbDoviz})
     w->setEnabled(true);
-  cmdDetayEkle->setText(QStringLiteral("Kaydet"));
-  cmdDetaySil->setVisible(true);
+  contract::GirisDugmeleri(contract::GirisAlanlari(*this), true);
   DetayDurum = 1;
   txtVade->setFocus();
 }
@@ -257,7 +231,7 @@ void frmSozles::cmdDetaySil_Click() {
     cmbTip->setFocus();
     cmdDetaySil->hide();
   } catch (const db::Hata& h) {
-    mesaj::Kritik(HataMetni() + QLatin1Char('\n') + h.metin(), QStringLiteral("Hata Açıklaması"));
+    contract::DetayHatasi(h.metin());
   }
 }
 
@@ -265,8 +239,7 @@ void frmSozles::cmdVazgec_Click() {
   const bool alinmis = DetayDurum == 1;
   CekBosalt();
   if (alinmis) {
-    cmdDetayEkle->setText(QStringLiteral("Ekle"));
-    cmdDetaySil->hide();
+    contract::GirisDugmeleri(contract::GirisAlanlari(*this), false);
   } else if (cmbTip->isEnabled()) {
     cmbTip->setFocus();
   }

@@ -60,16 +60,10 @@ void NumarayiTasi(qint32 id, qint32 no) {
 
 }  // namespace
 
-QString frmSozles::HataMetni() { return contract::KayitHataMetni(); }
-
 // --- a new contract
 
 void frmSozles::cmdNew_Click() {
-  if (txtMusteriNo->text().isEmpty() && MusteriBazinda()) {
-    mesaj::Kritik(QStringLiteral("Önce Bir Müşteri Seçmelisiniz"), QStringLiteral("Giriş Hatası"));
-    cmbAd->setFocus();
-    return;
-  }
+  if (!contract::MusteriSecilmis(txtMusteriNo, cmbAd, MusteriBazinda())) return;
   // Emptied first: when the engine fails there, the screen stays in its mode.
   bosalt();
   CekBosalt();
@@ -162,7 +156,7 @@ void frmSozles::cmdsil_Click() {
                              {SozlesmeID});
     islem.Onayla();
   } catch (const db::Hata& h) {
-    mesaj::Kritik(HataMetni() + QLatin1Char('\n') + h.metin(), QStringLiteral("Hata"));
+    contract::KayitHatasi(h.metin());
     return;
   }
   rsSozlesme->Requery();
@@ -196,9 +190,9 @@ bool frmSozles::SozlesmeKaydet() {
     KayitDurum = 0;
     return true;
   } catch (const db::Hata& h) {
-    mesaj::Kritik(HataMetni() + QLatin1Char('\n') + h.metin(), QStringLiteral("Hata"));
+    contract::KayitHatasi(h.metin());
   } catch (const Red& r) {
-    mesaj::Kritik(HataMetni() + QLatin1Char('\n') + r.neden, QStringLiteral("Hata"));
+    contract::KayitHatasi(r.neden);
   }
   return false;
 }
@@ -214,11 +208,8 @@ bool frmSozles::KaydetKontrol() {
     if (txtSozlesmeNo->isEnabled()) txtSozlesmeNo->setFocus();
     return false;
   }
+  if (!contract::TarihFaizKontrol(txtTarih, txtFaizOran)) return false;
   const QString hataliGiris = QStringLiteral("Hatalı Giriş");
-  if (!Genel::TarihOku(txtTarih->text()).isValid())
-    return hatali(txtTarih, QStringLiteral("Lütfen Tarih Bilgisini Doldurun"), hataliGiris);
-  if (!Genel::SayiMi(txtFaizOran->text()))
-    return hatali(txtFaizOran, QStringLiteral("Lütfen Faiz Oranı Bilgisini Girin"), hataliGiris);
   if (!Genel::SayiMi(txtGecikmeOran->text()))
     return hatali(txtGecikmeOran, QStringLiteral("Lütfen Gecikme Oranı Bilgisini Girin"),
                   hataliGiris);
@@ -238,7 +229,7 @@ frmSozles::KayitDegerleri frmSozles::KayitDegerleriOku() {
     TutarHesap();
   else
     Odenecek = TutarOku(txtTutar->text(), QStringLiteral("Tutar"));
-  d.yaziyla = Odenecek > 0 ? Genel::YaziyaCevir(Odenecek) : QStringLiteral("Sıfır");
+  d.yaziyla = contract::Yaziyla(Odenecek);
 
   d.no = SozlesmeNoOku(txtSozlesmeNo->text());
   d.musteri = MusteriNoOku(txtMusteriNo->text());

@@ -4,13 +4,16 @@
 #include <QComboBox>
 #include <QDateTime>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 #include <algorithm>
 
 #include "core/Ekran.h"
 #include "core/Genel.h"
 #include "core/Izgara.h"
+#include "core/Kutu.h"
 #include "core/Mesaj.h"
 #include "master/MusteriListesi.h"
 
@@ -44,7 +47,56 @@ QString SayiMetni(const QVariant& v) {
 
 bool Ayriliyor(QWidget* w) { return w->isEnabled() && w->isVisible(); }
 
+QPalette ZeminBoya(QWidget* w, const QColor& renk) {
+  QPalette zemin = w->palette();
+  zemin.setColor(QPalette::Window, renk);
+  w->setPalette(zemin);
+  w->setAutoFillBackground(true);
+  return zemin;
+}
+
+int HarfGenisligi(const QWidget* w) {
+  return w->fontMetrics().horizontalAdvance(QStringLiteral("0123456789")) / 10;
+}
+
+void Genislik(QWidget* w, int harf, int n) { w->setFixedWidth(harf * n + 16); }
+
+QFont FaizGunEtiketiKur(QLabel* lblFaizGun, int harf) {
+  lblFaizGun->setObjectName(QStringLiteral("lblFaizGun"));
+  lblFaizGun->setMinimumWidth(harf * 14);
+  QFont kalin = lblFaizGun->font();
+  kalin.setBold(true);
+  lblFaizGun->setFont(kalin);
+  return kalin;
+}
+
 // --- the customer
+
+QComboBox* MusteriKutusu(master::MusteriListesi* liste, int harf) {
+  auto* cmbAd = new QComboBox;
+  cmbAd->setObjectName(QStringLiteral("cmbAd"));
+  ekran::AnahtarListesi(cmbAd);
+  cmbAd->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  cmbAd->setModel(liste);
+  cmbAd->setMaxVisibleItems(20);
+  if (auto* v = qobject_cast<QListView*>(cmbAd->view())) v->setUniformItemSizes(true);
+  cmbAd->setMinimumWidth(harf * 36);
+  return cmbAd;
+}
+
+QLineEdit* GizliKutu(QWidget* ekran, const QString& ad) {
+  auto* kutu = new QLineEdit(ekran);
+  kutu->setObjectName(ad);
+  kutu->hide();
+  return kutu;
+}
+
+bool MusteriSecilmis(const QLineEdit* txtMusteriNo, QComboBox* cmbAd, bool musteriBazinda) {
+  if (!txtMusteriNo->text().isEmpty() || !musteriBazinda) return true;
+  mesaj::Kritik(QStringLiteral("Önce Bir Müşteri Seçmelisiniz"), QStringLiteral("Giriş Hatası"));
+  cmbAd->setFocus();
+  return false;
+}
 
 void MusteriDoldur(db::Kayitlar& rsMusteri, master::MusteriListesi* liste, QComboBox* cmbAd,
                    int sinir) {
@@ -178,7 +230,116 @@ std::vector<faiz::Satir> FaizSatirlari(const db::Kayitlar& rsDetay) {
   return satirlar;
 }
 
+faiz::Girdi FaizGirdisi(const QLineEdit* txtTarih, const QLineEdit* txtFaizOran, qint64 ilaveGun,
+                        bool Hesapla) {
+  faiz::Girdi girdi;
+  girdi.Tarih = Genel::TarihOku(txtTarih->text());
+  girdi.FaizOran = faiz::OranDegeri(txtFaizOran->text());
+  girdi.ilaveGun = ilaveGun;
+  girdi.Hesapla = Hesapla;
+  girdi.HaftaSonu = Genel::HaftaSonu;
+  girdi.OrtalamaGun = Genel::OrtalamaGun;
+  return girdi;
+}
+
+void SonucuYaz(const faiz::Sonuc& sonuc, const TutarAlanlari& a, qint64& DetaySayisi,
+               QString& GunYazisi, double& Odenecek) {
+  DetaySayisi = sonuc.DetaySayisi;
+  if (sonuc.GunYazisi) GunYazisi = *sonuc.GunYazisi;
+  if (sonuc.OrtGun) Genel::OrtGun = *sonuc.OrtGun;
+  if (sonuc.txtTutar) a.txtTutar->setText(*sonuc.txtTutar);
+  if (sonuc.txtFaizTutar) a.txtFaizTutar->setText(*sonuc.txtFaizTutar);
+  if (sonuc.txtOdenecek) a.txtOdenecek->setText(*sonuc.txtOdenecek);
+  if (sonuc.Odenecek) Odenecek = *sonuc.Odenecek;
+  if (sonuc.lblFaizGun) a.lblFaizGun->setText(*sonuc.lblFaizGun);
+}
+
+qint64 KayitGoster(const db::Kayitlar& kayit, QLineEdit* txtTarih, QLineEdit* txtTutar,
+                   QLineEdit* txtFaizOran, QLineEdit* txtValor) {
+  txtTarih->setText(Genel::TarihEkran(kayit.Fields(QStringLiteral("Tarih"))));
+  txtTutar->setText(faiz::ParaYazisi(kayit.Fields(QStringLiteral("Tutar")).toDouble()));
+  txtFaizOran->setText(SayiMetni(kayit.Fields(QStringLiteral("FaizOran"))));
+  const QVariant ilave = kayit.Fields(QStringLiteral("ilaveGun"));
+  const qint64 ilaveGun = db::NullMu(ilave) ? 0 : ilave.toLongLong();
+  txtValor->setText(faiz::ValorYazisi(ilaveGun));
+  return ilaveGun;
+}
+
+void FaizTutariGoster(const db::Kayitlar& kayit, const TutarAlanlari& a, double& Odenecek) {
+  const QVariant faizTutar = kayit.Fields(QStringLiteral("FaizTutar"));
+  if (db::NullMu(faizTutar)) return;
+  a.txtFaizTutar->setText(faiz::ParaYazisi(faizTutar.toDouble()));
+  Odenecek = kayit.Fields(QStringLiteral("Tutar")).toDouble() - faizTutar.toDouble();
+  a.txtOdenecek->setText(faiz::ParaYazisi(Odenecek));
+  a.lblFaizGun->clear();
+}
+
 // --- the lines
+
+DetayGirisi DetayGirisiKur(int harf) {
+  DetayGirisi g;
+  g.txtVade = ekran::Kutu(QStringLiteral("txtVade"));
+  g.txtGun = ekran::Kutu(QStringLiteral("txtGun"), 3);
+  g.txtMeblag = ekran::Kutu(QStringLiteral("txtMeblag"));
+  g.txtMeblag->setAlignment(Qt::AlignRight);
+  g.cmdDetayEkle = Dugme(QStringLiteral("cmdDetayEkle"), QStringLiteral("Ekle"));
+  g.cmdVazgec = Dugme(QStringLiteral("cmdVazgec"), QStringLiteral("Vazgeç"));
+  g.cmdDetaySil = Dugme(QStringLiteral("cmdDetaySil"), QStringLiteral("Sil"));
+  g.cmdCekDuzelt = Dugme(QStringLiteral("cmdCekDuzelt"), QStringLiteral("DÜZELT"));
+  g.cmdDetaySil->hide();
+  YeriniKoru(g.cmdDetaySil);
+  Genislik(g.txtVade, harf, 10);
+  Genislik(g.txtGun, harf, 4);
+  Genislik(g.txtMeblag, harf, 15);
+  return g;
+}
+
+void DetayGirisiDavranisi(const DetayGirisi& g) {
+  QLineEdit* txtVade = g.txtVade;
+  QLineEdit* txtGun = g.txtGun;
+  QLineEdit* txtMeblag = g.txtMeblag;
+  ekran::AyrilirkenKontrol(
+      txtVade, [txtVade] { return !Ayriliyor(txtVade) || ekran::TarihDuzelt(txtVade); });
+  ekran::TarihKutusuKur(txtVade);
+  ekran::AyrilirkenKontrol(
+      txtMeblag, [txtMeblag] { return !Ayriliyor(txtMeblag) || TutarKontrol(txtMeblag, true); });
+  ekran::AyrilirkenKontrol(txtGun, [txtGun] {
+    if (Ayriliyor(txtGun)) txtGun->setText(faiz::GunAlani(txtGun->text()));
+    return true;
+  });
+}
+
+ekran::Izgara* DetayIzgarasi(int satir) {
+  auto* izgara = new ekran::Izgara;
+  izgara->setObjectName(QStringLiteral("dGridDetay"));
+  izgara->setMinimumHeight(izgara->verticalHeader()->defaultSectionSize() * satir);
+  DetayIzgarasiKur(izgara);
+  return izgara;
+}
+
+db::Kayitlar DetayIzgarasiAc(const QString& tablo, bool meblagTL, const QString& txtTarih,
+                             qint64 ilaveGun, qint32 SozlesmeID) {
+  return Genel::Baglanti.Sorgu(DetayIzgaraSorgusu(tablo, meblagTL),
+                               DetayIzgaraDegerleri(txtTarih, ilaveGun, SozlesmeID));
+}
+
+void IzgaraSonunda(db::Kayitlar& rsDetay, ekran::Izgara* izgara) {
+  rsDetay.Move(rsDetay.RecordCount());
+  izgara->selectionModel()->clear();
+}
+
+qint32 SatiriGiriseAl(const db::Kayitlar& rsDetay, const DetayGirisi& g) {
+  g.txtVade->setText(Genel::TarihEkran(rsDetay.Fields(QStringLiteral("Vadesi"))));
+  g.txtGun->setText(rsDetay.Metin(QStringLiteral("Gun")));
+  const QVariant meblag = rsDetay.Fields(QStringLiteral("Meblag"));
+  g.txtMeblag->setText(db::NullMu(meblag) ? QString() : MeblagYazisi(meblag.toDouble()));
+  return rsDetay.Fields(QStringLiteral("GirisNo")).toInt();
+}
+
+void GirisDugmeleri(const DetayGirisi& g, bool alinmis) {
+  g.cmdDetayEkle->setText(alinmis ? QStringLiteral("Kaydet") : QStringLiteral("Ekle"));
+  g.cmdDetaySil->setVisible(alinmis);
+}
 
 QString MeblagYazisi(double deger) {
   QString s = faiz::ParaYazisi(deger);
@@ -307,5 +468,30 @@ double TutarOku(const QString& metin, const QString& alan) {
 }
 
 QString KayitHataMetni() { return QStringLiteral("Bir Hata Oldu, Lütfen Bilgileri Kontrol Edin"); }
+
+void KayitHatasi(const QString& neden) {
+  mesaj::Kritik(KayitHataMetni() + QLatin1Char('\n') + neden, QStringLiteral("Hata"));
+}
+
+void DetayHatasi(const QString& neden) {
+  mesaj::Kritik(KayitHataMetni() + QLatin1Char('\n') + neden, QStringLiteral("Hata Açıklaması"));
+}
+
+bool TarihFaizKontrol(QLineEdit* txtTarih, QLineEdit* txtFaizOran) {
+  const auto hatali = [](QLineEdit* kutu, const QString& metin) {
+    mesaj::Kritik(metin, QStringLiteral("Hatalı Giriş"));
+    kutu->setFocus();
+    return false;
+  };
+  if (!Genel::TarihOku(txtTarih->text()).isValid())
+    return hatali(txtTarih, QStringLiteral("Lütfen Tarih Bilgisini Doldurun"));
+  if (!Genel::SayiMi(txtFaizOran->text()))
+    return hatali(txtFaizOran, QStringLiteral("Lütfen Faiz Oranı Bilgisini Girin"));
+  return true;
+}
+
+QString Yaziyla(double Odenecek) {
+  return Odenecek > 0 ? Genel::YaziyaCevir(Odenecek) : QStringLiteral("Sıfır");
+}
 
 }  // namespace contract

@@ -6,6 +6,11 @@
 // the values a save writes. Each screen keeps its own routines (Goster,
 // bosalt, TutarHesap, ...) and calls these for the steps they have in common.
 
+#include <QColor>
+#include <QFont>
+#include <QObject>
+#include <QPalette>
+#include <QPushButton>
 #include <QString>
 #include <QVariant>
 #include <QVariantList>
@@ -13,16 +18,15 @@
 #include <vector>
 
 #include "contract/Faiz.h"
+#include "core/Izgara.h"
+#include "core/Koruma.h"
 #include "db/Kayitlar.h"
 
 class QComboBox;
+class QLabel;
 class QLineEdit;
-class QPushButton;
 class QWidget;
 
-namespace ekran {
-class Izgara;
-}
 namespace master {
 class MusteriListesi;
 }
@@ -41,8 +45,38 @@ QString SayiMetni(const QVariant& v);
 // A leave check runs only when the clerk leaves a field, not when the screen
 // disables or hides the field that holds the focus.
 bool Ayriliyor(QWidget* w);
+// The screen's background colour on the widget; the palette is returned for
+// the frames that take it too.
+QPalette ZeminBoya(QWidget* w, const QColor& renk);
+// The width of a digit in the widget's font: the unit of the fields' widths.
+int HarfGenisligi(const QWidget* w);
+// A field `n` digits wide, with room for its frame.
+void Genislik(QWidget* w, int harf, int n);
+// lblFaizGun: bold, at least 14 digits wide. The bold font is returned for
+// whatever else the screen sets in it.
+QFont FaizGunEtiketiKur(QLabel* lblFaizGun, int harf);
+// A handler of the screen behind a signal: an engine failure it doesn't
+// handle itself is shown and the screen stays as it is.
+template <typename Form>
+auto Korumali(Form* form, void (Form::*f)()) {
+  return [form, f] { ekran::Korumali([form, f] { (form->*f)(); }); };
+}
+template <typename Form>
+void KorumaliBagla(Form* form, QPushButton* d, void (Form::*f)()) {
+  QObject::connect(d, &QPushButton::clicked, form, Korumali(form, f));
+}
 
 // --- the customer (cmbAd, its item data the MusteriNo)
+
+// cmbAd over the customer list: found by typing, twenty rows open, room for
+// 36 digits.
+QComboBox* MusteriKutusu(master::MusteriListesi* liste, int harf);
+// txtMusteriNo, a field the screen holds but never shows.
+QLineEdit* GizliKutu(QWidget* ekran, const QString& ad);
+// A new record with MusteriBazinda on needs the customer first: without one
+// "Önce Bir Müşteri Seçmelisiniz" ("Giriş Hatası"), the focus to cmbAd, and
+// false.
+bool MusteriSecilmis(const QLineEdit* txtMusteriNo, QComboBox* cmbAd, bool musteriBazinda);
 
 // Opens rsMusteri (MusteriQry, in number order) and fills the list with at most
 // `sinir` customers in Turkish order; nothing is picked afterwards.
@@ -73,6 +107,28 @@ bool TutarKontrol(QLineEdit* kutu, bool Meblag);
 void OranKontrol(QLineEdit* kutu);
 // The lines of rsDetay as TutarHesap reads them, in the set's order.
 std::vector<faiz::Satir> FaizSatirlari(const db::Kayitlar& rsDetay);
+// The figures both screens give TutarHesap from their fields.
+faiz::Girdi FaizGirdisi(const QLineEdit* txtTarih, const QLineEdit* txtFaizOran, qint64 ilaveGun,
+                        bool Hesapla);
+// The boxes and the state both screens take from TutarHesap's result.
+struct TutarAlanlari {
+  QLineEdit *txtTutar, *txtFaizTutar, *txtOdenecek;
+  QLabel* lblFaizGun;
+};
+// The same boxes of either screen.
+template <typename Form>
+TutarAlanlari TutarKutulari(const Form& f) {
+  return {f.txtTutar, f.txtFaizTutar, f.txtOdenecek, f.lblFaizGun};
+}
+void SonucuYaz(const faiz::Sonuc& sonuc, const TutarAlanlari& a, qint64& DetaySayisi,
+               QString& GunYazisi, double& Odenecek);
+// A stored record's amount and rate, and its valör, whose ilaveGun is
+// returned (a Null is 0).
+qint64 KayitGoster(const db::Kayitlar& kayit, QLineEdit* txtTarih, QLineEdit* txtTutar,
+                   QLineEdit* txtFaizOran, QLineEdit* txtValor);
+// A stored record's interest, when it has one, and the payable amount that
+// follows from it.
+void FaizTutariGoster(const db::Kayitlar& kayit, const TutarAlanlari& a, double& Odenecek);
 
 // --- the lines
 
@@ -100,6 +156,47 @@ struct IzgaraSutunu {
 };
 void DetaySutunlari(ekran::Izgara* izgara, const db::Kayitlar& rsDetay,
                     std::span<const IzgaraSutunu> sutunlar);
+// The entry of a line both screens have: due date, days, amount and the
+// buttons, "Sil" hidden (but keeping its place) until a stored line is taken
+// in.
+struct DetayGirisi {
+  QLineEdit *txtVade, *txtGun, *txtMeblag;
+  QPushButton *cmdDetayEkle, *cmdVazgec, *cmdDetaySil, *cmdCekDuzelt;
+};
+DetayGirisi DetayGirisiKur(int harf);
+// The entry of either screen.
+template <typename Form>
+DetayGirisi GirisAlanlari(const Form& f) {
+  return {f.txtVade,   f.txtGun,      f.txtMeblag,   f.cmdDetayEkle,
+          f.cmdVazgec, f.cmdDetaySil, f.cmdCekDuzelt};
+}
+// The grid's double click and the entry's buttons of either screen, each to
+// its handler of the same name.
+template <typename Form>
+void DetayOlaylariBagla(Form* form) {
+  QObject::connect(form->dGridDetay, &ekran::Izgara::CiftTiklandi, form,
+                   Korumali(form, &Form::dGridDetay_DblClick));
+  KorumaliBagla(form, form->cmdDetayEkle, &Form::cmdDetayEkle_Click);
+  KorumaliBagla(form, form->cmdCekDuzelt, &Form::cmdCekDuzelt_Click);
+  KorumaliBagla(form, form->cmdDetaySil, &Form::cmdDetaySil_Click);
+  KorumaliBagla(form, form->cmdVazgec, &Form::cmdVazgec_Click);
+}
+// The leave checks of its fields: the due date completed, the days as a
+// number, the amount as an amount.
+void DetayGirisiDavranisi(const DetayGirisi& g);
+// dGridDetay, `satir` rows high at the least, with its columns set up.
+ekran::Izgara* DetayIzgarasi(int satir);
+// rsDetay with the grid's query over `tablo` for the record on show.
+db::Kayitlar DetayIzgarasiAc(const QString& tablo, bool meblagTL, const QString& txtTarih,
+                             qint64 ilaveGun, qint32 SozlesmeID);
+// The set stands behind its last row: no line is taken in until the clerk
+// picks one in the grid.
+void IzgaraSonunda(db::Kayitlar& rsDetay, ekran::Izgara* izgara);
+// Due date, days and amount of the current row of rsDetay into the entry;
+// the row's GirisNo is returned.
+qint32 SatiriGiriseAl(const db::Kayitlar& rsDetay, const DetayGirisi& g);
+// "Ekle" and "Sil" hidden for a new line, "Kaydet" and "Sil" for a stored one.
+void GirisDugmeleri(const DetayGirisi& g, bool alinmis);
 // The limit of lines: false after its message when a new line would pass it.
 bool DetayLimitiKontrol(qint64 DetaySayisi, int DetayDurum);
 // The checks of due date, days and amount of a line, in that order; false
@@ -122,5 +219,14 @@ qint64 MusteriNoOku(const QString& metin);
 double TutarOku(const QString& metin, const QString& alan);
 // What a refused save shows before the reason.
 QString KayitHataMetni();
+// A refused save: the reason under KayitHataMetni ("Hata"); of a line,
+// "Hata Açıklaması".
+void KayitHatasi(const QString& neden);
+void DetayHatasi(const QString& neden);
+// The date and the interest rate a save needs: false after "Hatalı Giriş"
+// with the focus in the field.
+bool TarihFaizKontrol(QLineEdit* txtTarih, QLineEdit* txtFaizOran);
+// The payable amount in words, "Sıfır" for none.
+QString Yaziyla(double Odenecek);
 
 }  // namespace contract

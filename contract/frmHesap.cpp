@@ -45,18 +45,15 @@ frmHesap::~frmHesap() {
 }
 
 void frmHesap::Kur() {
-  QPalette zemin = palette();
-  zemin.setColor(QPalette::Window, kZemin);
-  setPalette(zemin);
-  setAutoFillBackground(true);
+  const QPalette zemin = contract::ZeminBoya(this, kZemin);
 
   const auto etiket = [this](const QString& yazi) {
     auto* l = new QLabel(yazi);
     etiketler_ << l;
     return l;
   };
-  const int harf = fontMetrics().horizontalAdvance(QStringLiteral("0123456789")) / 10;
-  const auto genislik = [harf](QWidget* w, int n) { w->setFixedWidth(harf * n + 16); };
+  const int harf = contract::HarfGenisligi(this);
+  const auto genislik = [harf](QWidget* w, int n) { contract::Genislik(w, harf, n); };
 
   // --- the customer
   frmSearch = new QGroupBox(QStringLiteral("Müşteri"));
@@ -64,17 +61,8 @@ void frmHesap::Kur() {
   frmSearch->setPalette(zemin);
   frmSearch->setAutoFillBackground(true);
   lblSoyadAd = etiket(QStringLiteral("Soyad, Ad:"));
-  cmbAd = new QComboBox;
-  cmbAd->setObjectName(QStringLiteral("cmbAd"));
-  ekran::AnahtarListesi(cmbAd);
-  cmbAd->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  cmbAd->setModel(musteriler_);
-  cmbAd->setMaxVisibleItems(20);
-  if (auto* v = qobject_cast<QListView*>(cmbAd->view())) v->setUniformItemSizes(true);
-  cmbAd->setMinimumWidth(harf * 36);
-  txtMusteriNo = new QLineEdit(this);
-  txtMusteriNo->setObjectName(QStringLiteral("txtMusteriNo"));
-  txtMusteriNo->hide();
+  cmbAd = contract::MusteriKutusu(musteriler_, harf);
+  txtMusteriNo = contract::GizliKutu(this, QStringLiteral("txtMusteriNo"));
   {
     auto* h = new QHBoxLayout(frmSearch);
     h->addWidget(lblSoyadAd);
@@ -96,12 +84,7 @@ void frmHesap::Kur() {
   for (QLineEdit* k : {txtMasraf, txtTutar, txtFaizTutar, txtVergiProv, txtOdenecek})
     k->setAlignment(Qt::AlignRight);
   lblFaizGun = etiket(QString());
-  lblFaizGun->setObjectName(QStringLiteral("lblFaizGun"));
-  lblFaizGun->setMinimumWidth(harf * 14);
-  QFont kalin = lblFaizGun->font();
-  kalin.setBold(true);
-  lblFaizGun->setFont(kalin);
-  txtOdenecek->setFont(kalin);
+  txtOdenecek->setFont(contract::FaizGunEtiketiKur(lblFaizGun, harf));
 
   genislik(txtTarih, 10);
   genislik(txtFaizOran, 6);
@@ -141,23 +124,18 @@ void frmHesap::Kur() {
   // --- the lines
   frmCek = new QGroupBox(QStringLiteral("Belge  Giriş - Düzeltme"));
   frmCek->setObjectName(QStringLiteral("frmCek"));
-  txtVade = ekran::Kutu(QStringLiteral("txtVade"));
-  txtGun = ekran::Kutu(QStringLiteral("txtGun"), 3);
-  txtMeblag = ekran::Kutu(QStringLiteral("txtMeblag"));
-  txtMeblag->setAlignment(Qt::AlignRight);
-  cmdDetayEkle = Dugme(QStringLiteral("cmdDetayEkle"), QStringLiteral("Ekle"));
-  cmdVazgec = Dugme(QStringLiteral("cmdVazgec"), QStringLiteral("Vazgeç"));
-  cmdDetaySil = Dugme(QStringLiteral("cmdDetaySil"), QStringLiteral("Sil"));
-  cmdCekDuzelt = Dugme(QStringLiteral("cmdCekDuzelt"), QStringLiteral("DÜZELT"));
+  const contract::DetayGirisi giris = contract::DetayGirisiKur(harf);
+  txtVade = giris.txtVade;
+  txtGun = giris.txtGun;
+  txtMeblag = giris.txtMeblag;
+  cmdDetayEkle = giris.cmdDetayEkle;
+  cmdVazgec = giris.cmdVazgec;
+  cmdDetaySil = giris.cmdDetaySil;
+  cmdCekDuzelt = giris.cmdCekDuzelt;
   // "Ekle" becomes "Kaydet" while a line is changed: room for the longer one.
   cmdDetayEkle->setMinimumWidth(
       std::max(cmdDetayEkle->minimumWidth(),
                cmdDetayEkle->fontMetrics().horizontalAdvance(QStringLiteral("Kaydet")) + 24));
-  cmdDetaySil->hide();
-  contract::YeriniKoru(cmdDetaySil);
-  genislik(txtVade, 10);
-  genislik(txtGun, 4);
-  genislik(txtMeblag, 15);
   {
     auto* h = new QHBoxLayout(frmCek);
     h->setSpacing(8);
@@ -174,10 +152,7 @@ void frmHesap::Kur() {
     h->addStretch();
   }
 
-  dGridDetay = new ekran::Izgara;
-  dGridDetay->setObjectName(QStringLiteral("dGridDetay"));
-  dGridDetay->setMinimumHeight(dGridDetay->verticalHeader()->defaultSectionSize() * 5);
-  contract::DetayIzgarasiKur(dGridDetay);
+  dGridDetay = contract::DetayIzgarasi(5);
 
   // --- commands
   cmdNew = Dugme(QStringLiteral("cmdNew"), QStringLiteral("&Yeni Hesaplama"));
@@ -216,21 +191,12 @@ void frmHesap::KurDavranis() {
   // Leaving a field.
   ekran::AyrilirkenKontrol(cmbAd, [this] { return cmbAd_Validate(); });
   ekran::AyrilirkenKontrol(txtTarih, [this] { return txtTarih_Validate(); });
-  ekran::AyrilirkenKontrol(txtVade,
-                           [this] { return !Ayriliyor(txtVade) || ekran::TarihDuzelt(txtVade); });
   ekran::TarihKutusuKur(txtTarih);
-  ekran::TarihKutusuKur(txtVade);
+  contract::DetayGirisiDavranisi(contract::GirisAlanlari(*this));
   for (QLineEdit* k : {txtTutar, txtFaizTutar, txtOdenecek})
     ekran::AyrilirkenKontrol(k, [k] { return !Ayriliyor(k) || contract::TutarKontrol(k, false); });
-  ekran::AyrilirkenKontrol(txtMeblag, [this] {
-    return !Ayriliyor(txtMeblag) || contract::TutarKontrol(txtMeblag, true);
-  });
   ekran::AyrilirkenKontrol(txtFaizOran, [this] {
     if (Ayriliyor(txtFaizOran)) contract::OranKontrol(txtFaizOran);
-    return true;
-  });
-  ekran::AyrilirkenKontrol(txtGun, [this] {
-    if (Ayriliyor(txtGun)) txtGun->setText(faiz::GunAlani(txtGun->text()));
     return true;
   });
   ekran::AyrilirkenKontrol(txtValor, [this] { return txtValor_Validate(); });
@@ -246,20 +212,13 @@ void frmHesap::KurDavranis() {
 
   // What the clerk sets off: an engine failure none of them handles is shown
   // and the screen stays as it is.
-  const auto korumali = [this](void (frmHesap::*f)()) {
-    return [this, f] { ekran::Korumali([this, f] { (this->*f)(); }); };
-  };
-  connect(dGridDetay, &ekran::Izgara::CiftTiklandi, this, korumali(&frmHesap::dGridDetay_DblClick));
-  const auto bagla = [this, korumali](QPushButton* d, void (frmHesap::*f)()) {
-    connect(d, &QPushButton::clicked, this, korumali(f));
+  contract::DetayOlaylariBagla(this);
+  const auto bagla = [this](QPushButton* d, void (frmHesap::*f)()) {
+    contract::KorumaliBagla(this, d, f);
   };
   bagla(cmdNew, &frmHesap::cmdNew_Click);
   bagla(cmdBordro, &frmHesap::cmdBordro_Click);
   bagla(cmdExit, &frmHesap::cmdExit_Click);
-  bagla(cmdDetayEkle, &frmHesap::cmdDetayEkle_Click);
-  bagla(cmdCekDuzelt, &frmHesap::cmdCekDuzelt_Click);
-  bagla(cmdDetaySil, &frmHesap::cmdDetaySil_Click);
-  bagla(cmdVazgec, &frmHesap::cmdVazgec_Click);
 }
 
 // --- opening and closing
@@ -302,27 +261,14 @@ void frmHesap::Goster() {
     Hesapla = true;
     HesaplaKilit();
 
-    txtTarih->setText(Genel::TarihEkran(alan("Tarih")));
-    txtTutar->setText(faiz::ParaYazisi(alan("Tutar").toDouble()));
-    txtFaizOran->setText(contract::SayiMetni(alan("FaizOran")));
+    ilaveGun = contract::KayitGoster(kayit, txtTarih, txtTutar, txtFaizOran, txtValor);
     const QVariant masraf = alan("Masraf");
     txtMasraf->setText(db::NullMu(masraf) ? QString() : faiz::ParaYazisi(masraf.toDouble()));
     SozlesmeID = 1;
 
-    const QVariant ilave = alan("ilaveGun");
-    ilaveGun = db::NullMu(ilave) ? 0 : ilave.toLongLong();
-    txtValor->setText(faiz::ValorYazisi(ilaveGun));
-
     txtMusteriNo->setText(contract::SayiMetni(alan("MusteriNo")));
     MusteriBul();
-
-    const QVariant faizTutar = alan("FaizTutar");
-    if (!db::NullMu(faizTutar)) {
-      txtFaizTutar->setText(faiz::ParaYazisi(faizTutar.toDouble()));
-      Odenecek = alan("Tutar").toDouble() - faizTutar.toDouble();
-      txtOdenecek->setText(faiz::ParaYazisi(Odenecek));
-      lblFaizGun->clear();
-    }
+    contract::FaizTutariGoster(kayit, contract::TutarKutulari(*this), Odenecek);
 
     KontrolText(false);
     KontrolButon(QStringLiteral("Normal"));
@@ -431,44 +377,24 @@ bool frmHesap::eventFilter(QObject* o, QEvent* e) {
 // --- totals
 
 void frmHesap::TutarHesap() {
-  faiz::Girdi girdi;
-  girdi.Tarih = Genel::TarihOku(txtTarih->text());
-  girdi.FaizOran = faiz::OranDegeri(txtFaizOran->text());
-  girdi.ilaveGun = ilaveGun;
-  girdi.Hesapla = Hesapla;
-  girdi.HaftaSonu = Genel::HaftaSonu;
-  girdi.OrtalamaGun = Genel::OrtalamaGun;
+  faiz::Girdi girdi = contract::FaizGirdisi(txtTarih, txtFaizOran, ilaveGun, Hesapla);
   double masraf = 0;
   Genel::SayiOkuDene(txtMasraf->text(), masraf);  // empty, or refused on leaving: no fee
   girdi.Masraf = masraf;
 
   const faiz::Sonuc sonuc = faiz::TutarHesap(girdi, contract::FaizSatirlari(rsDetay));
-  DetaySayisi = sonuc.DetaySayisi;
-  if (sonuc.GunYazisi) GunYazisi = *sonuc.GunYazisi;
-  if (sonuc.OrtGun) Genel::OrtGun = *sonuc.OrtGun;
-  if (sonuc.txtTutar) txtTutar->setText(*sonuc.txtTutar);
-  if (sonuc.txtFaizTutar) txtFaizTutar->setText(*sonuc.txtFaizTutar);
+  contract::SonucuYaz(sonuc, contract::TutarKutulari(*this), DetaySayisi, GunYazisi, Odenecek);
+  // Step T11: the tax and the fee.
   if (sonuc.txtVergiProv) txtVergiProv->setText(*sonuc.txtVergiProv);
   if (sonuc.TahsilMasrafi) TahsilMasrafi = *sonuc.TahsilMasrafi;
   if (sonuc.BMVergisi) BMVergisi = *sonuc.BMVergisi;
-  if (sonuc.txtOdenecek) txtOdenecek->setText(*sonuc.txtOdenecek);
-  if (sonuc.Odenecek) Odenecek = *sonuc.Odenecek;
-  if (sonuc.lblFaizGun) lblFaizGun->setText(*sonuc.lblFaizGun);
-
-  // The set stands behind its last row: no line is taken in until the clerk
-  // picks one in the grid.
-  rsDetay.Move(rsDetay.RecordCount());
-  dGridDetay->selectionModel()->clear();
+  contract::IzgaraSonunda(rsDetay, dGridDetay);
 }
 
 // --- a new calculation and saving it
 
 void frmHesap::cmdNew_Click() {
-  if (txtMusteriNo->text().isEmpty() && musteriBazinda_) {
-    mesaj::Kritik(QStringLiteral("Önce Bir Müşteri Seçmelisiniz"), QStringLiteral("Giriş Hatası"));
-    cmbAd->setFocus();
-    return;
-  }
+  if (!contract::MusteriSecilmis(txtMusteriNo, cmbAd, musteriBazinda_)) return;
   // Wiped first, without a question: when the engine fails there, the
   // screen stays as it was. The customer stays.
   bosalt();
@@ -477,21 +403,12 @@ void frmHesap::cmdNew_Click() {
   DetayDurum = 3;
   DetaySayisi = 0;
   // A line that was taken in is gone with the rest.
-  cmdDetayEkle->setText(QStringLiteral("Ekle"));
-  cmdDetaySil->hide();
+  contract::GirisDugmeleri(contract::GirisAlanlari(*this), false);
   txtTarih->setFocus();
 }
 
 bool frmHesap::HesapKaydet() {
-  const auto hatali = [](QLineEdit* kutu, const QString& metin) {
-    mesaj::Kritik(metin, QStringLiteral("Hatalı Giriş"));
-    kutu->setFocus();
-    return false;
-  };
-  if (!Genel::TarihOku(txtTarih->text()).isValid())
-    return hatali(txtTarih, QStringLiteral("Lütfen Tarih Bilgisini Doldurun"));
-  if (!Genel::SayiMi(txtFaizOran->text()))
-    return hatali(txtFaizOran, QStringLiteral("Lütfen Faiz Oranı Bilgisini Girin"));
+  if (!contract::TarihFaizKontrol(txtTarih, txtFaizOran)) return false;
   KayitDurum = 2;
   try {
     HesapYaz();
@@ -504,10 +421,9 @@ bool frmHesap::HesapKaydet() {
     KayitDurum = 0;
     return true;
   } catch (const db::Hata& h) {
-    mesaj::Kritik(contract::KayitHataMetni() + QLatin1Char('\n') + h.metin(),
-                  QStringLiteral("Hata"));
+    contract::KayitHatasi(h.metin());
   } catch (const contract::Red& r) {
-    mesaj::Kritik(contract::KayitHataMetni() + QLatin1Char('\n') + r.neden, QStringLiteral("Hata"));
+    contract::KayitHatasi(r.neden);
   }
   return false;
 }
@@ -520,7 +436,7 @@ void frmHesap::HesapYaz() {
     TutarHesap();
   else
     Odenecek = contract::TutarOku(txtTutar->text(), QStringLiteral("Tutar"));
-  const QString yaziyla = Odenecek > 0 ? Genel::YaziyaCevir(Odenecek) : QStringLiteral("Sıfır");
+  const QString yaziyla = contract::Yaziyla(Odenecek);
   SozlesmeID = 1;
 
   // Every value is read before anything is written. A calculation needs a
@@ -553,9 +469,8 @@ void frmHesap::HesapDuzelt() {
 // --- the lines
 
 void frmHesap::DetayAc() {
-  rsDetay =
-      Genel::Baglanti.Sorgu(contract::DetayIzgaraSorgusu(QStringLiteral("HesapDetay"), false),
-                            contract::DetayIzgaraDegerleri(txtTarih->text(), ilaveGun, SozlesmeID));
+  rsDetay = contract::DetayIzgarasiAc(QStringLiteral("HesapDetay"), false, txtTarih->text(),
+                                      ilaveGun, SozlesmeID);
   DetayBagla();
 }
 
@@ -645,23 +560,15 @@ void frmHesap::cmdDetayEkle_Click() {
     HesapDuzelt();
     txtVade->setFocus();
   } catch (const db::Hata& h) {
-    mesaj::Kritik(contract::KayitHataMetni() + QLatin1Char('\n') + h.metin(),
-                  QStringLiteral("Hata Açıklaması"));
+    contract::DetayHatasi(h.metin());
   } catch (const Genel::SayiHatasi& h) {
-    mesaj::Kritik(
-        contract::KayitHataMetni() + QLatin1Char('\n') + h.metin + QStringLiteral(" Sayı Değil"),
-        QStringLiteral("Hata Açıklaması"));
+    contract::DetayHatasi(h.metin + QStringLiteral(" Sayı Değil"));
   }
 }
 
 void frmHesap::SatiriAl() {
-  txtVade->setText(Genel::TarihEkran(rsDetay.Fields(QStringLiteral("Vadesi"))));
-  txtGun->setText(rsDetay.Metin(QStringLiteral("Gun")));
-  const QVariant meblag = rsDetay.Fields(QStringLiteral("Meblag"));
-  txtMeblag->setText(db::NullMu(meblag) ? QString() : contract::MeblagYazisi(meblag.toDouble()));
-  GirisNo = rsDetay.Fields(QStringLiteral("GirisNo")).toInt();
-  cmdDetayEkle->setText(QStringLiteral("Kaydet"));
-  cmdDetaySil->setVisible(true);
+  GirisNo = contract::SatiriGiriseAl(rsDetay, contract::GirisAlanlari(*this));
+  contract::GirisDugmeleri(contract::GirisAlanlari(*this), true);
   DetayDurum = 1;
   txtVade->setFocus();
 }
@@ -679,10 +586,7 @@ void frmHesap::cmdCekDuzelt_Click() {
 void frmHesap::cmdVazgec_Click() {
   const bool alinmis = DetayDurum == 1;
   CekBosalt();
-  if (alinmis) {
-    cmdDetayEkle->setText(QStringLiteral("Ekle"));
-    cmdDetaySil->hide();
-  }
+  if (alinmis) contract::GirisDugmeleri(contract::GirisAlanlari(*this), false);
   txtVade->setFocus();
 }
 
@@ -701,8 +605,7 @@ void frmHesap::cmdDetaySil_Click() {
     HesapDuzelt();
     cmdDetaySil->hide();
   } catch (const db::Hata& h) {
-    mesaj::Kritik(contract::KayitHataMetni() + QLatin1Char('\n') + h.metin(),
-                  QStringLiteral("Hata Açıklaması"));
+    contract::DetayHatasi(h.metin());
   }
 }
 

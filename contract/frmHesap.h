@@ -27,6 +27,7 @@
 #include <QPushButton>
 #include <optional>
 
+#include "contract/SozlesOrtak.h"
 #include "core/Form.h"
 #include "core/Izgara.h"
 #include "db/Kayitlar.h"

@@ -47,40 +47,26 @@ frmSozles::~frmSozles() {
 }
 
 void frmSozles::Kur() {
-  QPalette zemin = palette();
-  zemin.setColor(QPalette::Window, kZemin);
-  setPalette(zemin);
-  setAutoFillBackground(true);
+  contract::ZeminBoya(this, kZemin);
 
   const auto etiket = [this](const QString& yazi) {
     auto* l = new QLabel(yazi);
     etiketler_ << l;
     return l;
   };
-  const int harf = fontMetrics().horizontalAdvance(QStringLiteral("0123456789")) / 10;
-  const auto genislik = [harf](QWidget* w, int n) { w->setFixedWidth(harf * n + 16); };
+  const int harf = contract::HarfGenisligi(this);
+  const auto genislik = [harf](QWidget* w, int n) { contract::Genislik(w, harf, n); };
 
   // --- the customer
   frmSearch = new QGroupBox(QStringLiteral("Müşteri"));
   frmSearch->setObjectName(QStringLiteral("frmSearch"));
   lblSoyadAd = etiket(QStringLiteral("Soyad, Ad:"));
-  cmbAd = new QComboBox;
-  cmbAd->setObjectName(QStringLiteral("cmbAd"));
-  ekran::AnahtarListesi(cmbAd);
-  cmbAd->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  cmbAd->setModel(musteriler_);
-  cmbAd->setMaxVisibleItems(20);
-  if (auto* v = qobject_cast<QListView*>(cmbAd->view())) v->setUniformItemSizes(true);
-  cmbAd->setMinimumWidth(harf * 36);
+  cmbAd = contract::MusteriKutusu(musteriler_, harf);
   cmdMusDetay = Dugme(QStringLiteral("cmdMusDetay"), QStringLiteral("?"));
   cmdBilgiGoster =
       Dugme(QStringLiteral("cmdBilgiGoster"), QStringLiteral("&Müşterinin Sözleşmelerini  Göster"));
-  txtMusteriNo = new QLineEdit(this);
-  txtMusteriNo->setObjectName(QStringLiteral("txtMusteriNo"));
-  txtMusteriNo->hide();
-  txtOldSeriNo = new QLineEdit(this);
-  txtOldSeriNo->setObjectName(QStringLiteral("txtOldSeriNo"));
-  txtOldSeriNo->hide();
+  txtMusteriNo = contract::GizliKutu(this, QStringLiteral("txtMusteriNo"));
+  txtOldSeriNo = contract::GizliKutu(this, QStringLiteral("txtOldSeriNo"));
   {
     auto* h = new QHBoxLayout(frmSearch);
     h->addWidget(lblSoyadAd);
@@ -113,11 +99,7 @@ void frmSozles::Kur() {
   ekran::AnahtarListesi(cmbDoviz);
   ekran::SinirKur(cmbDoviz->lineEdit(), 3);
   lblFaizGun = etiket(QString());
-  lblFaizGun->setObjectName(QStringLiteral("lblFaizGun"));
-  lblFaizGun->setMinimumWidth(harf * 14);
-  QFont kalin = lblFaizGun->font();
-  kalin.setBold(true);
-  lblFaizGun->setFont(kalin);
+  contract::FaizGunEtiketiKur(lblFaizGun, harf);
   lblToplam = etiket(QString());
   lblToplam->setObjectName(QStringLiteral("lblToplam"));
   lblToplam->setAlignment(Qt::AlignCenter);
@@ -181,20 +163,15 @@ void frmSozles::Kur() {
   txtSube = ekran::Kutu(QStringLiteral("txtSube"), 20);
   txtHesapNo = ekran::Kutu(QStringLiteral("txtHesapNo"), 20);
   txtCekNo = ekran::Kutu(QStringLiteral("txtCekNo"), 20);
-  txtVade = ekran::Kutu(QStringLiteral("txtVade"));
-  txtGun = ekran::Kutu(QStringLiteral("txtGun"), 3);
-  txtMeblag = ekran::Kutu(QStringLiteral("txtMeblag"));
-  txtMeblag->setAlignment(Qt::AlignRight);
-  cmdDetayEkle = Dugme(QStringLiteral("cmdDetayEkle"), QStringLiteral("Ekle"));
-  cmdVazgec = Dugme(QStringLiteral("cmdVazgec"), QStringLiteral("Vazgeç"));
-  cmdDetaySil = Dugme(QStringLiteral("cmdDetaySil"), QStringLiteral("Sil"));
-  cmdCekDuzelt = Dugme(QStringLiteral("cmdCekDuzelt"), QStringLiteral("DÜZELT"));
-  cmdDetaySil->hide();
-  YeriniKoru(cmdDetaySil);
+  const contract::DetayGirisi giris = contract::DetayGirisiKur(harf);
+  txtVade = giris.txtVade;
+  txtGun = giris.txtGun;
+  txtMeblag = giris.txtMeblag;
+  cmdDetayEkle = giris.cmdDetayEkle;
+  cmdVazgec = giris.cmdVazgec;
+  cmdDetaySil = giris.cmdDetaySil;
+  cmdCekDuzelt = giris.cmdCekDuzelt;
   genislik(cmbTip, 7);
-  genislik(txtVade, 10);
-  genislik(txtGun, 4);
-  genislik(txtMeblag, 15);
   for (QLineEdit* k : {txtBanka, txtSube, txtHesapNo, txtCekNo}) genislik(k, 14);
   {
     auto* g = new QGridLayout(frmCek);
@@ -231,10 +208,7 @@ void frmSozles::Kur() {
     g->setColumnStretch(9, 1);
   }
 
-  dGridDetay = new ekran::Izgara;
-  dGridDetay->setObjectName(QStringLiteral("dGridDetay"));
-  dGridDetay->setMinimumHeight(dGridDetay->verticalHeader()->defaultSectionSize() * 7);
-  contract::DetayIzgarasiKur(dGridDetay);
+  dGridDetay = contract::DetayIzgarasi(7);
 
   // --- commands
   cmdNew = Dugme(QStringLiteral("cmdNew"), QStringLiteral("&Yeni Sözleşme Gir"));
@@ -297,23 +271,16 @@ void frmSozles::KurDavranis() {
   // Leaving a field.
   ekran::AyrilirkenKontrol(cmbAd, [this] { return cmbAd_Validate(); });
   ekran::AyrilirkenKontrol(txtTarih, [this] { return txtTarih_Validate(); });
-  ekran::AyrilirkenKontrol(txtVade,
-                           [this] { return !Ayriliyor(txtVade) || ekran::TarihDuzelt(txtVade); });
   ekran::TarihKutusuKur(txtTarih);
-  ekran::TarihKutusuKur(txtVade);
+  contract::DetayGirisiDavranisi(contract::GirisAlanlari(*this));
   ekran::AyrilirkenKontrol(txtTutar, [this] { return AlanKontrol(txtTutar, false); });
   ekran::AyrilirkenKontrol(txtFaizTutar, [this] { return AlanKontrol(txtFaizTutar, false); });
   ekran::AyrilirkenKontrol(txtOdenecek, [this] { return AlanKontrol(txtOdenecek, false); });
-  ekran::AyrilirkenKontrol(txtMeblag, [this] { return AlanKontrol(txtMeblag, true); });
   for (QLineEdit* k : {txtFaizOran, txtGecikmeOran, txtIskontoOran})
     ekran::AyrilirkenKontrol(k, [this, k] {
       OranKontrol(k);
       return true;
     });
-  ekran::AyrilirkenKontrol(txtGun, [this] {
-    if (Ayriliyor(txtGun)) txtGun->setText(faiz::GunAlani(txtGun->text()));
-    return true;
-  });
   ekran::AyrilirkenKontrol(txtValor, [this] { return txtValor_Validate(); });
   // The locks the screen starts with: the number until a contract is opened
   // for change, the payable amount always.
@@ -330,15 +297,12 @@ void frmSozles::KurDavranis() {
 
   // What the clerk sets off: an engine failure none of them handles is shown
   // and the screen stays as it is.
-  const auto korumali = [this](void (frmSozles::*f)()) {
-    return [this, f] { ekran::Korumali([this, f] { (this->*f)(); }); };
-  };
-  connect(chkHesapla, &QCheckBox::clicked, this, korumali(&frmSozles::chkHesapla_Click));
-  connect(cmbTip, &QComboBox::activated, this, korumali(&frmSozles::cmbTip_Click));
-  connect(dGridDetay, &ekran::Izgara::CiftTiklandi, this,
-          korumali(&frmSozles::dGridDetay_DblClick));
-  const auto bagla = [this, korumali](QPushButton* d, void (frmSozles::*f)()) {
-    connect(d, &QPushButton::clicked, this, korumali(f));
+  using contract::Korumali;
+  connect(chkHesapla, &QCheckBox::clicked, this, Korumali(this, &frmSozles::chkHesapla_Click));
+  connect(cmbTip, &QComboBox::activated, this, Korumali(this, &frmSozles::cmbTip_Click));
+  contract::DetayOlaylariBagla(this);
+  const auto bagla = [this](QPushButton* d, void (frmSozles::*f)()) {
+    contract::KorumaliBagla(this, d, f);
   };
   bagla(cmdBilgiGoster, &frmSozles::cmdBilgiGoster_Click);
   bagla(cmdMusDetay, &frmSozles::cmdMusDetay_Click);
@@ -357,10 +321,6 @@ void frmSozles::KurDavranis() {
   bagla(cmdYazdir, &frmSozles::cmdYazdir_Click);
   bagla(cmdBordro, &frmSozles::cmdBordro_Click);
   bagla(cmdExit, &frmSozles::cmdExit_Click);
-  bagla(cmdDetayEkle, &frmSozles::cmdDetayEkle_Click);
-  bagla(cmdCekDuzelt, &frmSozles::cmdCekDuzelt_Click);
-  bagla(cmdDetaySil, &frmSozles::cmdDetaySil_Click);
-  bagla(cmdVazgec, &frmSozles::cmdVazgec_Click);
 }
 
 // --- opening and closing
@@ -424,9 +384,7 @@ void frmSozles::Goster() {
     HesaplaKilit();
     chkHesapla->setChecked(Hesapla);
 
-    txtTarih->setText(Genel::TarihEkran(alan("Tarih")));
-    txtTutar->setText(faiz::ParaYazisi(alan("Tutar").toDouble()));
-    txtFaizOran->setText(SayiMetni(alan("FaizOran")));
+    ilaveGun = contract::KayitGoster(kayit, txtTarih, txtTutar, txtFaizOran, txtValor);
     txtIskontoOran->setText(SayiMetni(alan("IskontoOran")));
     txtGecikmeOran->setText(SayiMetni(alan("GecikmeOran")));
     txtSozlesmeNo->setText(SayiMetni(alan("SozlesmeNo")));
@@ -436,22 +394,12 @@ void frmSozles::Goster() {
     SeriKod = seri.leftJustified(2, QLatin1Char(' '), true);
     txtOldSeriNo->setText(seri);
 
-    const QVariant ilave = alan("ilaveGun");
-    ilaveGun = db::NullMu(ilave) ? 0 : ilave.toLongLong();
-    txtValor->setText(faiz::ValorYazisi(ilaveGun));
-
     if (!musteriBazinda_) {
       txtMusteriNo->setText(SayiMetni(alan("MusteriNo")));
       MusteriBul();
     }
 
-    const QVariant faizTutar = alan("FaizTutar");
-    if (!db::NullMu(faizTutar)) {
-      txtFaizTutar->setText(faiz::ParaYazisi(faizTutar.toDouble()));
-      Odenecek = alan("Tutar").toDouble() - faizTutar.toDouble();
-      txtOdenecek->setText(faiz::ParaYazisi(Odenecek));
-      lblFaizGun->clear();
-    }
+    contract::FaizTutariGoster(kayit, contract::TutarKutulari(*this), Odenecek);
 
     lblToplam->setText(QStringLiteral("Kayıt:  %1 / %2")
                            .arg(rsSozlesme->AbsolutePosition())

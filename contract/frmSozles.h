@@ -25,6 +25,7 @@
 #include <array>
 #include <optional>
 
+#include "contract/SozlesOrtak.h"
 #include "core/Form.h"
 #include "core/Izgara.h"
 #include "db/Kayitlar.h"
@@ -175,8 +176,6 @@ class frmSozles : public ekran::Form {
   // A leave check runs only when the clerk leaves a field, not when the
   // screen disables or hides the field that holds the focus.
   static bool Ayriliyor(QWidget* w);
-  // What a refused write shows before the reason.
-  static QString HataMetni();
 
   // --- saving (SozlesmeKaydet in its steps)
   // What a save writes, taken from the fields once its checks have passed.
