@@ -58,7 +58,7 @@ void frmSozles::DetayBagla() {
 void frmSozles::TutarHesap() {
   const faiz::Girdi girdi = contract::FaizGirdisi(txtTarih, txtFaizOran, ilaveGun, Hesapla);
   const faiz::Sonuc sonuc = faiz::TutarHesap(girdi, contract::FaizSatirlari(rsDetay));
-  contract::SonucuYaz(sonuc, contract::TutarKutulari(*this), DetaySayisi, GunYazisi, Odenecek);
+  contract::SonucuYaz(sonuc, Tutarlar(), DetaySayisi, GunYazisi, Odenecek);
   contract::IzgaraSonunda(rsDetay, dGridDetay);
 }
 
@@ -190,14 +190,14 @@ void frmSozles::SatiriAl() {
   txtSube->setText(metin("Sube"));
   txtHesapNo->setText(metin("HesapNo"));
   txtCekNo->setText(metin("CekNo"));
-  GirisNo = contract::SatiriGiriseAl(rsDetay, contract::GirisAlanlari(*this));
+  GirisNo = contract::SatiriGiriseAl(rsDetay, Giris());
   const QString tip = metin("Tip");
   if (!tip.isEmpty()) cmbTip->setCurrentText(tip);
   cmbDoviz->setCurrentText(metin("Doviz"));
   for (QWidget* w : std::initializer_list<QWidget*>{txtKesideci, txtBanka, txtSube, txtHesapNo,
                                                     txtCekNo, txtVade, txtMeblag, cmbTip, cmbDoviz})
     w->setEnabled(true);
-  contract::GirisDugmeleri(contract::GirisAlanlari(*this), true);
+  contract::GirisDugmeleri(Giris(), true);
   DetayDurum = 1;
   txtVade->setFocus();
 }
@@ -239,7 +239,7 @@ void frmSozles::cmdVazgec_Click() {
   const bool alinmis = DetayDurum == 1;
   CekBosalt();
   if (alinmis) {
-    contract::GirisDugmeleri(contract::GirisAlanlari(*this), false);
+    contract::GirisDugmeleri(Giris(), false);
   } else if (cmbTip->isEnabled()) {
     cmbTip->setFocus();
   }

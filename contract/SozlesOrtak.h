@@ -115,11 +115,6 @@ struct TutarAlanlari {
   QLineEdit *txtTutar, *txtFaizTutar, *txtOdenecek;
   QLabel* lblFaizGun;
 };
-// The same boxes of either screen.
-template <typename Form>
-TutarAlanlari TutarKutulari(const Form& f) {
-  return {f.txtTutar, f.txtFaizTutar, f.txtOdenecek, f.lblFaizGun};
-}
 void SonucuYaz(const faiz::Sonuc& sonuc, const TutarAlanlari& a, qint64& DetaySayisi,
                QString& GunYazisi, double& Odenecek);
 // A stored record's amount and rate, and its valör, whose ilaveGun is
@@ -164,12 +159,6 @@ struct DetayGirisi {
   QPushButton *cmdDetayEkle, *cmdVazgec, *cmdDetaySil, *cmdCekDuzelt;
 };
 DetayGirisi DetayGirisiKur(int harf);
-// The entry of either screen.
-template <typename Form>
-DetayGirisi GirisAlanlari(const Form& f) {
-  return {f.txtVade,   f.txtGun,      f.txtMeblag,   f.cmdDetayEkle,
-          f.cmdVazgec, f.cmdDetaySil, f.cmdCekDuzelt};
-}
 // The grid's double click and the entry's buttons of either screen, each to
 // its handler of the same name.
 template <typename Form>

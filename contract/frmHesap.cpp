@@ -34,41 +34,22 @@ using contract::Dugme;
 
 }  // namespace
 
-frmHesap::frmHesap(QWidget* ust) : ekran::Form(ust), musteriler_(new master::MusteriListesi(this)) {
+frmHesap::frmHesap(QWidget* ust) : contract::SozlesTemel(ust) {
   Kur();
   KurDavranis();
-}
-
-frmHesap::~frmHesap() {
-  // The grid outlives the record set while the widgets are torn down.
-  dGridDetay->Bagla(nullptr);
 }
 
 void frmHesap::Kur() {
   const QPalette zemin = contract::ZeminBoya(this, kZemin);
 
-  const auto etiket = [this](const QString& yazi) {
-    auto* l = new QLabel(yazi);
-    etiketler_ << l;
-    return l;
-  };
+  const auto etiket = [this](const QString& yazi) { return Etiket(yazi); };
   const int harf = contract::HarfGenisligi(this);
   const auto genislik = [harf](QWidget* w, int n) { contract::Genislik(w, harf, n); };
 
   // --- the customer
-  frmSearch = new QGroupBox(QStringLiteral("Müşteri"));
-  frmSearch->setObjectName(QStringLiteral("frmSearch"));
+  MusteriCercevesiKur(harf)->addStretch();
   frmSearch->setPalette(zemin);
   frmSearch->setAutoFillBackground(true);
-  lblSoyadAd = etiket(QStringLiteral("Soyad, Ad:"));
-  cmbAd = contract::MusteriKutusu(musteriler_, harf);
-  txtMusteriNo = contract::GizliKutu(this, QStringLiteral("txtMusteriNo"));
-  {
-    auto* h = new QHBoxLayout(frmSearch);
-    h->addWidget(lblSoyadAd);
-    h->addWidget(cmbAd, 1);
-    h->addStretch();
-  }
 
   // --- the calculation: what the clerk gives on the left, what comes of it
   // on the right, from the total down to the payable amount.
@@ -122,16 +103,7 @@ void frmHesap::Kur() {
   hesap->setColumnStretch(6, 1);
 
   // --- the lines
-  frmCek = new QGroupBox(QStringLiteral("Belge  Giriş - Düzeltme"));
-  frmCek->setObjectName(QStringLiteral("frmCek"));
-  const contract::DetayGirisi giris = contract::DetayGirisiKur(harf);
-  txtVade = giris.txtVade;
-  txtGun = giris.txtGun;
-  txtMeblag = giris.txtMeblag;
-  cmdDetayEkle = giris.cmdDetayEkle;
-  cmdVazgec = giris.cmdVazgec;
-  cmdDetaySil = giris.cmdDetaySil;
-  cmdCekDuzelt = giris.cmdCekDuzelt;
+  DetayGirisiKur(harf);
   // "Ekle" becomes "Kaydet" while a line is changed: room for the longer one.
   cmdDetayEkle->setMinimumWidth(
       std::max(cmdDetayEkle->minimumWidth(),
@@ -170,13 +142,7 @@ void frmHesap::Kur() {
   komutlar->addSpacing(12);
   komutlar->addWidget(cmdExit);
 
-  auto* duzen = new QVBoxLayout(this);
-  duzen->addWidget(frmSearch);
-  duzen->addLayout(hesap);
-  duzen->addWidget(frmCek);
-  duzen->addWidget(dGridDetay, 1);
-  duzen->addLayout(izgaraAlti);
-  duzen->addLayout(komutlar);
+  DuzenKur(hesap, izgaraAlti, komutlar);
 
   // The order of the keyboard: customer, the four fields the clerk gives, the
   // line, then the commands. The computed boxes are locked and out of it.
@@ -188,11 +154,8 @@ void frmHesap::Kur() {
 }
 
 void frmHesap::KurDavranis() {
-  // Leaving a field.
-  ekran::AyrilirkenKontrol(cmbAd, [this] { return cmbAd_Validate(); });
-  ekran::AyrilirkenKontrol(txtTarih, [this] { return txtTarih_Validate(); });
-  ekran::TarihKutusuKur(txtTarih);
-  contract::DetayGirisiDavranisi(contract::GirisAlanlari(*this));
+  // Leaving a field; the grid and the line entry's buttons.
+  OrtakDavranis(this);
   for (QLineEdit* k : {txtTutar, txtFaizTutar, txtOdenecek})
     ekran::AyrilirkenKontrol(k, [k] { return !Ayriliyor(k) || contract::TutarKontrol(k, false); });
   ekran::AyrilirkenKontrol(txtFaizOran, [this] {
@@ -212,7 +175,6 @@ void frmHesap::KurDavranis() {
 
   // What the clerk sets off: an engine failure none of them handles is shown
   // and the screen stays as it is.
-  contract::DetayOlaylariBagla(this);
   const auto bagla = [this](QPushButton* d, void (frmHesap::*f)()) {
     contract::KorumaliBagla(this, d, f);
   };
@@ -237,16 +199,6 @@ void frmHesap::Form_Load() {
   CekBosalt();  // the day field shows its "0" from the start
 }
 
-void frmHesap::Form_Unload() {
-  // The tables keep what they hold.
-  rsSozlesme.reset();
-  dGridDetay->Bagla(nullptr);
-  rsDetay = db::Kayitlar();
-  rsMusteri = db::Kayitlar();
-}
-
-void frmHesap::cmdExit_Click() { Kapat(); }
-
 // --- showing the calculation
 
 void frmHesap::Goster() {
@@ -268,7 +220,7 @@ void frmHesap::Goster() {
 
     txtMusteriNo->setText(contract::SayiMetni(alan("MusteriNo")));
     MusteriBul();
-    contract::FaizTutariGoster(kayit, contract::TutarKutulari(*this), Odenecek);
+    contract::FaizTutariGoster(kayit, Tutarlar(), Odenecek);
 
     KontrolText(false);
     KontrolButon(QStringLiteral("Normal"));
@@ -322,39 +274,17 @@ void frmHesap::Gorunum(bool) {
   for (QLabel* l : etiketler_) l->setVisible(true);
 }
 
-void frmHesap::HesaplaKilit() {
-  contract::HesaplaKilitUygula(Hesapla, txtTutar, txtFaizTutar, txtOdenecek);
-}
-
 // --- the customer
-
-void frmHesap::MusteriBul() {
-  contract::MusteriBul(rsMusteri, musteriler_, cmbAd, txtMusteriNo->text());
-}
 
 void frmHesap::cmbAd_GotFocus() {
   // The contract screen hides its contract here; the worksheet shows all.
   if (musteriBazinda_) Gorunum(false);
 }
 
-bool frmHesap::cmbAd_Validate() {
-  // Opening its own list is no leaving.
-  if (QApplication::activePopupWidget() || !Ayriliyor(cmbAd)) return true;
-  return contract::MusteriSecimi(cmbAd, musteriler_, txtMusteriNo, KayitDurum == 0);
-}
-
 // --- fields
 
 void frmHesap::txtTarih_GotFocus() {
   if (txtTarih->text().isEmpty()) txtTarih->setText(Genel::TarihYaz(QDate::currentDate()));
-}
-
-bool frmHesap::txtTarih_Validate() { return !Ayriliyor(txtTarih) || ekran::TarihDuzelt(txtTarih); }
-
-bool frmHesap::txtValor_Validate() {
-  if (!Ayriliyor(txtValor)) return true;
-  if (const auto yeni = faiz::ValorAlani(txtValor->text())) ilaveGun = *yeni;
-  return true;
 }
 
 bool frmHesap::txtMasraf_Validate() {
@@ -383,7 +313,7 @@ void frmHesap::TutarHesap() {
   girdi.Masraf = masraf;
 
   const faiz::Sonuc sonuc = faiz::TutarHesap(girdi, contract::FaizSatirlari(rsDetay));
-  contract::SonucuYaz(sonuc, contract::TutarKutulari(*this), DetaySayisi, GunYazisi, Odenecek);
+  contract::SonucuYaz(sonuc, Tutarlar(), DetaySayisi, GunYazisi, Odenecek);
   // Step T11: the tax and the fee.
   if (sonuc.txtVergiProv) txtVergiProv->setText(*sonuc.txtVergiProv);
   if (sonuc.TahsilMasrafi) TahsilMasrafi = *sonuc.TahsilMasrafi;
@@ -403,7 +333,7 @@ void frmHesap::cmdNew_Click() {
   DetayDurum = 3;
   DetaySayisi = 0;
   // A line that was taken in is gone with the rest.
-  contract::GirisDugmeleri(contract::GirisAlanlari(*this), false);
+  contract::GirisDugmeleri(Giris(), false);
   txtTarih->setFocus();
 }
 
@@ -567,8 +497,8 @@ void frmHesap::cmdDetayEkle_Click() {
 }
 
 void frmHesap::SatiriAl() {
-  GirisNo = contract::SatiriGiriseAl(rsDetay, contract::GirisAlanlari(*this));
-  contract::GirisDugmeleri(contract::GirisAlanlari(*this), true);
+  GirisNo = contract::SatiriGiriseAl(rsDetay, Giris());
+  contract::GirisDugmeleri(Giris(), true);
   DetayDurum = 1;
   txtVade->setFocus();
 }
@@ -586,7 +516,7 @@ void frmHesap::cmdCekDuzelt_Click() {
 void frmHesap::cmdVazgec_Click() {
   const bool alinmis = DetayDurum == 1;
   CekBosalt();
-  if (alinmis) contract::GirisDugmeleri(contract::GirisAlanlari(*this), false);
+  if (alinmis) contract::GirisDugmeleri(Giris(), false);
   txtVade->setFocus();
 }
 

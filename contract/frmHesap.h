@@ -20,75 +20,27 @@
 // "Müşteri Seçilmemiş", before anything is written, as the contract's save
 // refuses a contract without one.
 
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <optional>
+#include "contract/SozlesTemel.h"
 
-#include "contract/SozlesOrtak.h"
-#include "core/Form.h"
-#include "core/Izgara.h"
-#include "db/Kayitlar.h"
-
-namespace master {
-class MusteriListesi;
-}
-
-class frmHesap : public ekran::Form {
+// The controls and state it shares with the contract screen are declared in
+// contract::SozlesTemel. Here SozlesmeID is 1 while a calculation is on
+// screen; KayitDurum is 2 during cmdNew and HesapKaydet and 1 after
+// HesapDuzelt. The papers are cheques without drawer, bank or number each.
+class frmHesap : public contract::SozlesTemel {
   Q_OBJECT
 
  public:
   explicit frmHesap(QWidget* ust = nullptr);
-  ~frmHesap() override;
-
-  static constexpr int kGenislik = 10200;  // twips, for FormOrtala
-  static constexpr int kYukseklik = 7200;
-  // cmbAd takes at most this many customers, as on the contract screen.
-  static constexpr int kMusteriSiniri = 30002;
-
-  // --- the customer
-  QGroupBox* frmSearch;
-  QLabel* lblSoyadAd;
-  QComboBox* cmbAd;         // item data: MusteriNo
-  QLineEdit* txtMusteriNo;  // invisible
 
   // --- the calculation
-  QLineEdit *txtTarih, *txtFaizOran, *txtValor, *txtMasraf;
-  QLineEdit *txtTutar, *txtFaizTutar, *txtVergiProv, *txtOdenecek;
-  QLabel* lblFaizGun;
+  QLineEdit *txtMasraf, *txtVergiProv;
 
-  // --- the papers: a cheque without drawer, bank or number each
-  QGroupBox* frmCek;
-  QLineEdit *txtVade, *txtGun, *txtMeblag;
-  QPushButton *cmdDetayEkle, *cmdVazgec, *cmdDetaySil, *cmdCekDuzelt;
-  ekran::Izgara* dGridDetay;
-
-  // --- commands
-  QPushButton *cmdNew, *cmdBordro, *cmdExit;
-
-  // --- state, as on the contract screen
-  qint32 SozlesmeID = 0;  // 1 while a calculation is on screen, 0 when emptied
-  int KayitDurum = 0;     // 0 at rest, 2 during cmdNew and HesapKaydet, 1 after HesapDuzelt
-  int DetayDurum = 3;     // 3 a new line is typed, 1 a stored line is changed
-  qint64 ilaveGun = 0;
-  bool Hesapla = true;
-  QString GunYazisi;
-  double Odenecek = 0;
-  qint64 DetaySayisi = 0;
-  qint32 GirisNo = 0;  // the stored line taken into the entry
-  // --- and of its own
+  // --- state of its own
   double TahsilMasrafi = 0;  // the fee of the whole calculation: fee per paper × papers
   double BMVergisi = 0;      // the tax: interest × faiz::kBMVergisiOrani (5 %)
   double KomisyonTutar = 0;  // stays 0
-
-  std::optional<db::Kayitlar> rsSozlesme;  // the scratch record of Hesap
-  db::Kayitlar rsDetay;                    // its lines, bound to dGridDetay
-  db::Kayitlar rsMusteri;                  // customers behind cmbAd, in number order
-
-  // The mode the screen was loaded in (the contract screen's last opening).
-  bool MusteriBazinda() const { return musteriBazinda_; }
+  // rsSozlesme holds the scratch record of Hesap; MusteriBazinda() is the
+  // contract screen's last opening.
 
   void Form_Load() override;
 
@@ -98,23 +50,17 @@ class frmHesap : public ekran::Form {
   void KontrolText(bool Durum);
   void KontrolButon(const QString& Mod);
   void Gorunum(bool Durum);
-  void MusteriBul();
   bool HesapKaydet();
   void HesapDuzelt();
   void TutarHesap();
-  void HesaplaKilit();
   void CekBosalt();
 
   // --- handlers
   void cmbAd_GotFocus();
-  bool cmbAd_Validate();  // false keeps the focus in cmbAd
   void txtTarih_GotFocus();
-  bool txtTarih_Validate();
-  bool txtValor_Validate();
   bool txtMasraf_Validate();
   void cmdNew_Click();
   void cmdBordro_Click();
-  void cmdExit_Click();
   void cmdDetayEkle_Click();
   void dGridDetay_DblClick();
   void cmdCekDuzelt_Click();
@@ -122,7 +68,6 @@ class frmHesap : public ekran::Form {
   void cmdVazgec_Click();
 
  protected:
-  void Form_Unload() override;
   bool eventFilter(QObject* o, QEvent* e) override;
 
  private:
@@ -141,10 +86,6 @@ class frmHesap : public ekran::Form {
   void DetayYaz();
   // Writes the scratch record anew (delete and insert in one transaction).
   void HesapYaz();
-
-  master::MusteriListesi* musteriler_;
-  QList<QLabel*> etiketler_;
-  bool musteriBazinda_ = false;
 };
 
 namespace contract {

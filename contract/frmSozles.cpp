@@ -35,46 +35,27 @@ using contract::YeriniKoru;
 
 }  // namespace
 
-frmSozles::frmSozles(QWidget* ust)
-    : ekran::Form(ust), musteriler_(new master::MusteriListesi(this)) {
+frmSozles::frmSozles(QWidget* ust) : contract::SozlesTemel(ust) {
   Kur();
   KurDavranis();
-}
-
-frmSozles::~frmSozles() {
-  // The grid outlives the record set while the widgets are torn down.
-  dGridDetay->Bagla(nullptr);
 }
 
 void frmSozles::Kur() {
   contract::ZeminBoya(this, kZemin);
 
-  const auto etiket = [this](const QString& yazi) {
-    auto* l = new QLabel(yazi);
-    etiketler_ << l;
-    return l;
-  };
+  const auto etiket = [this](const QString& yazi) { return Etiket(yazi); };
   const int harf = contract::HarfGenisligi(this);
   const auto genislik = [harf](QWidget* w, int n) { contract::Genislik(w, harf, n); };
 
   // --- the customer
-  frmSearch = new QGroupBox(QStringLiteral("Müşteri"));
-  frmSearch->setObjectName(QStringLiteral("frmSearch"));
-  lblSoyadAd = etiket(QStringLiteral("Soyad, Ad:"));
-  cmbAd = contract::MusteriKutusu(musteriler_, harf);
+  QHBoxLayout* musteri = MusteriCercevesiKur(harf);
   cmdMusDetay = Dugme(QStringLiteral("cmdMusDetay"), QStringLiteral("?"));
   cmdBilgiGoster =
       Dugme(QStringLiteral("cmdBilgiGoster"), QStringLiteral("&Müşterinin Sözleşmelerini  Göster"));
-  txtMusteriNo = contract::GizliKutu(this, QStringLiteral("txtMusteriNo"));
   txtOldSeriNo = contract::GizliKutu(this, QStringLiteral("txtOldSeriNo"));
-  {
-    auto* h = new QHBoxLayout(frmSearch);
-    h->addWidget(lblSoyadAd);
-    h->addWidget(cmbAd, 1);
-    h->addWidget(cmdMusDetay);
-    h->addSpacing(8);
-    h->addWidget(cmdBilgiGoster);
-  }
+  musteri->addWidget(cmdMusDetay);
+  musteri->addSpacing(8);
+  musteri->addWidget(cmdBilgiGoster);
 
   // --- the contract
   txtTarih = ekran::Kutu(QStringLiteral("txtTarih"));
@@ -152,8 +133,7 @@ void frmSozles::Kur() {
   }
 
   // --- the lines
-  frmCek = new QGroupBox(QStringLiteral("Belge  Giriş - Düzeltme"));
-  frmCek->setObjectName(QStringLiteral("frmCek"));
+  DetayGirisiKur(harf);
   cmbTip = new QComboBox;
   cmbTip->setObjectName(QStringLiteral("cmbTip"));
   cmbTip->addItems({QStringLiteral("Çek"), QStringLiteral("Senet")});
@@ -163,14 +143,6 @@ void frmSozles::Kur() {
   txtSube = ekran::Kutu(QStringLiteral("txtSube"), 20);
   txtHesapNo = ekran::Kutu(QStringLiteral("txtHesapNo"), 20);
   txtCekNo = ekran::Kutu(QStringLiteral("txtCekNo"), 20);
-  const contract::DetayGirisi giris = contract::DetayGirisiKur(harf);
-  txtVade = giris.txtVade;
-  txtGun = giris.txtGun;
-  txtMeblag = giris.txtMeblag;
-  cmdDetayEkle = giris.cmdDetayEkle;
-  cmdVazgec = giris.cmdVazgec;
-  cmdDetaySil = giris.cmdDetaySil;
-  cmdCekDuzelt = giris.cmdCekDuzelt;
   genislik(cmbTip, 7);
   for (QLineEdit* k : {txtBanka, txtSube, txtHesapNo, txtCekNo}) genislik(k, 14);
   {
@@ -250,13 +222,7 @@ void frmSozles::Kur() {
   komutlar->addSpacing(12);
   komutlar->addWidget(cmdExit);
 
-  auto* duzen = new QVBoxLayout(this);
-  duzen->addWidget(frmSearch);
-  duzen->addLayout(ust);
-  duzen->addWidget(frmCek);
-  duzen->addWidget(dGridDetay, 1);
-  duzen->addLayout(hareket);
-  duzen->addLayout(komutlar);
+  DuzenKur(ust, hareket, komutlar);
 
   // Everything Gorunum hides keeps its place.
   for (QWidget* w :
@@ -268,11 +234,8 @@ void frmSozles::Kur() {
 }
 
 void frmSozles::KurDavranis() {
-  // Leaving a field.
-  ekran::AyrilirkenKontrol(cmbAd, [this] { return cmbAd_Validate(); });
-  ekran::AyrilirkenKontrol(txtTarih, [this] { return txtTarih_Validate(); });
-  ekran::TarihKutusuKur(txtTarih);
-  contract::DetayGirisiDavranisi(contract::GirisAlanlari(*this));
+  // Leaving a field; the grid and the line entry's buttons.
+  OrtakDavranis(this);
   ekran::AyrilirkenKontrol(txtTutar, [this] { return AlanKontrol(txtTutar, false); });
   ekran::AyrilirkenKontrol(txtFaizTutar, [this] { return AlanKontrol(txtFaizTutar, false); });
   ekran::AyrilirkenKontrol(txtOdenecek, [this] { return AlanKontrol(txtOdenecek, false); });
@@ -300,7 +263,6 @@ void frmSozles::KurDavranis() {
   using contract::Korumali;
   connect(chkHesapla, &QCheckBox::clicked, this, Korumali(this, &frmSozles::chkHesapla_Click));
   connect(cmbTip, &QComboBox::activated, this, Korumali(this, &frmSozles::cmbTip_Click));
-  contract::DetayOlaylariBagla(this);
   const auto bagla = [this](QPushButton* d, void (frmSozles::*f)()) {
     contract::KorumaliBagla(this, d, f);
   };
@@ -354,15 +316,6 @@ void frmSozles::MusteriDoldur() {
   contract::MusteriDoldur(rsMusteri, musteriler_, cmbAd, kMusteriSiniri);
 }
 
-void frmSozles::Form_Unload() {
-  rsSozlesme.reset();
-  dGridDetay->Bagla(nullptr);
-  rsDetay = db::Kayitlar();
-  rsMusteri = db::Kayitlar();
-}
-
-void frmSozles::cmdExit_Click() { Kapat(); }
-
 // --- showing a contract
 
 db::Kayitlar frmSozles::KayitOku() const {
@@ -399,7 +352,7 @@ void frmSozles::Goster() {
       MusteriBul();
     }
 
-    contract::FaizTutariGoster(kayit, contract::TutarKutulari(*this), Odenecek);
+    contract::FaizTutariGoster(kayit, Tutarlar(), Odenecek);
 
     lblToplam->setText(QStringLiteral("Kayıt:  %1 / %2")
                            .arg(rsSozlesme->AbsolutePosition())
@@ -477,23 +430,11 @@ void frmSozles::Gorunum(bool Durum) {
 
 // --- the customer
 
-void frmSozles::MusteriBul() {
-  contract::MusteriBul(rsMusteri, musteriler_, cmbAd, txtMusteriNo->text());
-}
-
 int frmSozles::SeciliMusteri() const { return contract::SeciliMusteri(cmbAd, musteriler_); }
 
 void frmSozles::cmbAd_GotFocus() {
   // The old contract goes while another customer is picked.
   if (musteriBazinda_) Gorunum(false);
-}
-
-bool frmSozles::cmbAd_Validate() {
-  // Opening its own list is no leaving.
-  if (QApplication::activePopupWidget() || !Ayriliyor(cmbAd)) return true;
-  // Browsing, an empty list is no pick to refuse: cmdNew tells the clerk to
-  // pick a customer. A new contract over all contracts needs one.
-  return contract::MusteriSecimi(cmbAd, musteriler_, txtMusteriNo, KayitDurum == 0);
 }
 
 void frmSozles::cmdBilgiGoster_Click() {
@@ -605,21 +546,9 @@ void frmSozles::cmdBordro_Click() {
 
 bool frmSozles::Ayriliyor(QWidget* w) { return contract::Ayriliyor(w); }
 
-void frmSozles::HesaplaKilit() {
-  contract::HesaplaKilitUygula(Hesapla, txtTutar, txtFaizTutar, txtOdenecek);
-}
-
 void frmSozles::chkHesapla_Click() {
   Hesapla = chkHesapla->isChecked();
   HesaplaKilit();
-}
-
-bool frmSozles::txtTarih_Validate() { return !Ayriliyor(txtTarih) || ekran::TarihDuzelt(txtTarih); }
-
-bool frmSozles::txtValor_Validate() {
-  if (!Ayriliyor(txtValor)) return true;
-  if (const auto yeni = faiz::ValorAlani(txtValor->text())) ilaveGun = *yeni;
-  return true;
 }
 
 bool frmSozles::AlanKontrol(QLineEdit* kutu, bool Meblag) {

@@ -17,89 +17,51 @@
 // (ekran::Kaydet); until then their buttons stay greyed.
 
 #include <QCheckBox>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <array>
-#include <optional>
 
-#include "contract/SozlesOrtak.h"
-#include "core/Form.h"
-#include "core/Izgara.h"
-#include "db/Kayitlar.h"
+#include "contract/SozlesTemel.h"
 
-namespace master {
-class MusteriListesi;
-}
-
-class frmSozles : public ekran::Form {
+// The controls and state it shares with the worksheet (the customer, date,
+// rate, valör, amounts, the line entry and grid, cmdNew, cmdBordro, cmdExit)
+// are declared in contract::SozlesTemel.
+class frmSozles : public contract::SozlesTemel {
   Q_OBJECT
 
  public:
   explicit frmSozles(QWidget* ust = nullptr);
-  ~frmSozles() override;
-
-  static constexpr int kGenislik = 10200;  // twips, for FormOrtala
-  static constexpr int kYukseklik = 7200;
-  // cmbAd takes at most this many customers.
-  static constexpr int kMusteriSiniri = 30002;
 
   // --- the customer
-  QGroupBox* frmSearch;
-  QLabel* lblSoyadAd;  // "Soyad, Ad:", the one label that stays when the rest hides
-  QComboBox* cmbAd;    // item data: MusteriNo
   QPushButton *cmdBilgiGoster, *cmdMusDetay;
-  QLineEdit* txtMusteriNo;  // invisible
   QLineEdit* txtOldSeriNo;  // invisible
 
   // --- the contract
-  QLineEdit *txtTarih, *txtSozlesmeNo, *txtTutar, *txtFaizTutar, *txtOdenecek;
+  QLineEdit* txtSozlesmeNo;
   QGroupBox* Frame1;
-  QLineEdit *txtFaizOran, *txtGecikmeOran, *txtIskontoOran;
-  QLineEdit* txtValor;
+  QLineEdit *txtGecikmeOran, *txtIskontoOran;
   QCheckBox* chkHesapla;
   QComboBox* cmbDoviz;
-  QLabel *lblFaizGun, *lblToplam;
+  QLabel* lblToplam;
   QPushButton* cmdSozNoBul;
 
   // --- the instrument lines
-  QGroupBox* frmCek;
   QComboBox* cmbTip;
-  QLineEdit *txtKesideci, *txtBanka, *txtSube, *txtHesapNo, *txtCekNo, *txtVade, *txtGun,
-      *txtMeblag;
-  QPushButton *cmdDetayEkle, *cmdVazgec, *cmdDetaySil, *cmdCekDuzelt;
-  ekran::Izgara* dGridDetay;
+  QLineEdit *txtKesideci, *txtBanka, *txtSube, *txtHesapNo, *txtCekNo;
 
   // --- commands
-  QPushButton *cmdNew, *cmdEdit, *cmdSave, *cmdCancel, *cmdsil, *cmdFind, *cmdFatura, *cmdYazdir,
-      *cmdBordro, *cmdFirst, *cmdPrev, *cmdNext, *cmdLast, *cmdExit;
+  QPushButton *cmdEdit, *cmdSave, *cmdCancel, *cmdsil, *cmdFind, *cmdFatura, *cmdYazdir, *cmdFirst,
+      *cmdPrev, *cmdNext, *cmdLast;
 
-  // --- state
-  qint32 SozlesmeID = 0;  // 0 when the fields were emptied
-  int KayitDurum = 0;     // 0 browse, 1 contract being changed, 2 new contract
-  int DetayDurum = 3;     // 3 a new line is typed, 1 a stored line is changed
-  QString SeriKod;        // series of the contract on show, two characters
+  // --- state (KayitDurum: 0 browse, 1 contract being changed, 2 new contract)
+  QString SeriKod;  // series of the contract on show, two characters
   qint32 EskiSozlesmeNo = 0;
-  qint64 ilaveGun = 0;
-  bool Hesapla = true;
-  QString GunYazisi;
-  double Odenecek = 0;
-  qint64 DetaySayisi = 0;
-  qint32 GirisNo = 0;  // the stored line taken into the entry
   // The last drawer, bank, branch and account left behind in their fields.
   enum SonDegerAlani { Kesideci, Banka, Sube, HesapNo };
   std::array<QString, 4> SonDeger;
 
-  // Keys (SozlesmeID) of the contracts navigation moves over; none until the
-  // customer-bound screen has been asked for a customer's contracts.
-  std::optional<db::Kayitlar> rsSozlesme;
-  db::Kayitlar rsDetay;    // lines of the contract on show, bound to dGridDetay
-  db::Kayitlar rsMusteri;  // customers behind cmbAd, in number order
+  // rsSozlesme: keys (SozlesmeID) of the contracts navigation moves over;
+  // none until the customer-bound screen has been asked for a customer's
+  // contracts.
 
-  // The mode the screen was loaded in.
-  bool MusteriBazinda() const { return musteriBazinda_; }
   // An amount as the grid and the entry show it: groups, two decimals, no
   // leading zero (,50).
   static QString MeblagYazisi(double deger);
@@ -113,17 +75,14 @@ class frmSozles : public ekran::Form {
   void KontrolText(bool Durum);
   void KontrolButon(const QString& Mod);
   void Gorunum(bool Durum);
-  void MusteriBul();
   void SozNoBul();
   bool SozlesmeKaydet();
   qint32 YeniSozlesmeID();
   void TutarHesap();
-  void HesaplaKilit();
   void CekBosalt();
 
   // --- handlers of the contract
   void cmbAd_GotFocus();
-  bool cmbAd_Validate();  // false keeps the focus in cmbAd
   void cmdBilgiGoster_Click();
   void cmdMusDetay_Click();
   void cmdNew_Click();
@@ -140,10 +99,7 @@ class frmSozles : public ekran::Form {
   void cmdFatura_Click();
   void cmdYazdir_Click();
   void cmdBordro_Click();
-  void cmdExit_Click();
   void chkHesapla_Click();
-  bool txtTarih_Validate();
-  bool txtValor_Validate();
 
   // --- handlers of the lines
   void cmbTip_Click();
@@ -155,7 +111,6 @@ class frmSozles : public ekran::Form {
   void cmdVazgec_Click();
 
  protected:
-  void Form_Unload() override;
   bool eventFilter(QObject* o, QEvent* e) override;
 
  private:
@@ -206,10 +161,6 @@ class frmSozles : public ekran::Form {
   bool DetayKontrol();
   // Writes the line of the entry (insert or update).
   void DetayYaz();
-
-  master::MusteriListesi* musteriler_;
-  QList<QLabel*> etiketler_;
-  bool musteriBazinda_ = false;
 };
 
 namespace contract {
