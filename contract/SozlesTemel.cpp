@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "contract/Faiz.h"
+#include "core/Genel.h"
 #include "master/MusteriListesi.h"
 
 namespace contract {
@@ -22,6 +23,13 @@ void SozlesTemel::Form_Unload() {
   dGridDetay->Bagla(nullptr);
   rsDetay = db::Kayitlar();
   rsMusteri = db::Kayitlar();
+}
+
+void SozlesTemel::AcilisHazirla() {
+  musteriBazinda_ = Genel::MusteriBazinda;
+  ekran::FormOrtala(this, kYukseklik, kGenislik);
+  lblFaizGun->clear();
+  txtMusteriNo->clear();
 }
 
 void SozlesTemel::cmdExit_Click() { Kapat(); }

@@ -98,7 +98,7 @@ class SozlesTemel : public ekran::Form {
   // under the grid and the commands, one under the other.
   void DuzenKur(QLayout* rakamlar, QLayout* izgaraAlti, QLayout* komutlar);
   // The leave checks of cmbAd, txtTarih and the line entry; handlers of the
-  // grid and the entry's buttons.
+  // grid, the entry's buttons, cmdNew, cmdBordro and cmdExit.
   template <typename Ekran>
   void OrtakDavranis(Ekran* e) {
     ekran::AyrilirkenKontrol(cmbAd, [e] { return e->cmbAd_Validate(); });
@@ -106,7 +106,13 @@ class SozlesTemel : public ekran::Form {
     ekran::TarihKutusuKur(txtTarih);
     DetayGirisiDavranisi(Giris());
     DetayOlaylariBagla(e);
+    KorumaliBagla<Ekran>(e, cmdNew, &Ekran::cmdNew_Click);
+    KorumaliBagla<Ekran>(e, cmdBordro, &Ekran::cmdBordro_Click);
+    KorumaliBagla<Ekran>(e, cmdExit, &Ekran::cmdExit_Click);
   }
+  // The first steps of Form_Load: the mode, the size, and no customer and
+  // no day count shown.
+  void AcilisHazirla();
 
   DetayGirisi Giris() const;
   TutarAlanlari Tutarlar() const;

@@ -154,7 +154,8 @@ void frmHesap::Kur() {
 }
 
 void frmHesap::KurDavranis() {
-  // Leaving a field; the grid and the line entry's buttons.
+  // Leaving a field; the grid, the line entry and the commands both screens
+  // have. An engine failure a handler leaves is shown and the screen stays.
   OrtakDavranis(this);
   for (QLineEdit* k : {txtTutar, txtFaizTutar, txtOdenecek})
     ekran::AyrilirkenKontrol(k, [k] { return !Ayriliyor(k) || contract::TutarKontrol(k, false); });
@@ -172,24 +173,12 @@ void frmHesap::KurDavranis() {
     ekran::KontrolTetiklemez(w);
 
   for (QWidget* w : std::initializer_list<QWidget*>{cmbAd, txtTarih}) w->installEventFilter(this);
-
-  // What the clerk sets off: an engine failure none of them handles is shown
-  // and the screen stays as it is.
-  const auto bagla = [this](QPushButton* d, void (frmHesap::*f)()) {
-    contract::KorumaliBagla(this, d, f);
-  };
-  bagla(cmdNew, &frmHesap::cmdNew_Click);
-  bagla(cmdBordro, &frmHesap::cmdBordro_Click);
-  bagla(cmdExit, &frmHesap::cmdExit_Click);
 }
 
 // --- opening and closing
 
 void frmHesap::Form_Load() {
-  musteriBazinda_ = Genel::MusteriBazinda;
-  ekran::FormOrtala(this, kYukseklik, kGenislik);
-  lblFaizGun->clear();
-  txtMusteriNo->clear();
+  AcilisHazirla();
   setWindowTitle(QStringLiteral("Ödünç Para"));
   contract::MusteriDoldur(rsMusteri, musteriler_, cmbAd, kMusteriSiniri);
   // In either mode: the last calculation comes back.

@@ -234,7 +234,8 @@ void frmSozles::Kur() {
 }
 
 void frmSozles::KurDavranis() {
-  // Leaving a field; the grid and the line entry's buttons.
+  // Leaving a field; the grid, the line entry and the commands both screens
+  // have. An engine failure a handler leaves is shown and the screen stays.
   OrtakDavranis(this);
   ekran::AyrilirkenKontrol(txtTutar, [this] { return AlanKontrol(txtTutar, false); });
   ekran::AyrilirkenKontrol(txtFaizTutar, [this] { return AlanKontrol(txtFaizTutar, false); });
@@ -258,8 +259,7 @@ void frmSozles::KurDavranis() {
        std::initializer_list<QWidget*>{cmbAd, cmbTip, txtKesideci, txtBanka, txtSube, txtHesapNo})
     w->installEventFilter(this);
 
-  // What the clerk sets off: an engine failure none of them handles is shown
-  // and the screen stays as it is.
+  // What else the clerk sets off, guarded the same way.
   using contract::Korumali;
   connect(chkHesapla, &QCheckBox::clicked, this, Korumali(this, &frmSozles::chkHesapla_Click));
   connect(cmbTip, &QComboBox::activated, this, Korumali(this, &frmSozles::cmbTip_Click));
@@ -268,7 +268,6 @@ void frmSozles::KurDavranis() {
   };
   bagla(cmdBilgiGoster, &frmSozles::cmdBilgiGoster_Click);
   bagla(cmdMusDetay, &frmSozles::cmdMusDetay_Click);
-  bagla(cmdNew, &frmSozles::cmdNew_Click);
   bagla(cmdSozNoBul, &frmSozles::cmdSozNoBul_Click);
   bagla(cmdEdit, &frmSozles::cmdEdit_Click);
   bagla(cmdSave, &frmSozles::cmdSave_Click);
@@ -281,17 +280,12 @@ void frmSozles::KurDavranis() {
   bagla(cmdFind, &frmSozles::cmdFind_Click);
   bagla(cmdFatura, &frmSozles::cmdFatura_Click);
   bagla(cmdYazdir, &frmSozles::cmdYazdir_Click);
-  bagla(cmdBordro, &frmSozles::cmdBordro_Click);
-  bagla(cmdExit, &frmSozles::cmdExit_Click);
 }
 
 // --- opening and closing
 
 void frmSozles::Form_Load() {
-  musteriBazinda_ = Genel::MusteriBazinda;
-  ekran::FormOrtala(this, kYukseklik, kGenislik);
-  lblFaizGun->clear();
-  txtMusteriNo->clear();
+  AcilisHazirla();
   setWindowTitle(musteriBazinda_
                      ? QStringLiteral("Sözleşme Bilgileri (Müşteri Bazında Gruplu)")
                      : QStringLiteral("Sözleşme Bilgileri (Sözleşme Numarası Bazında)"));
