@@ -3,13 +3,9 @@
 
 #include "contract/frmHesap.h"
 
-#include <QApplication>
 #include <QFocusEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QHeaderView>
-#include <QListView>
-#include <QVBoxLayout>
 #include <algorithm>
 
 #include "contract/Faiz.h"
@@ -20,7 +16,6 @@
 #include "core/Koruma.h"
 #include "core/Kutu.h"
 #include "core/Mesaj.h"
-#include "master/MusteriListesi.h"
 
 namespace {
 

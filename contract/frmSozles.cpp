@@ -5,13 +5,10 @@
 
 #include "contract/frmSozles.h"
 
-#include <QApplication>
 #include <QFocusEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QKeyEvent>
-#include <QListView>
 #include <QVBoxLayout>
 
 #include "contract/Faiz.h"
