@@ -30,9 +30,9 @@ namespace {
 using olcum::Olc;
 using olcum::Yaz;
 
-constexpr int kMusteri = 100000;
-constexpr int kSozlesme = 300000;
-constexpr qint64 kSatir = 2000000;
+constexpr int kMusteri = bench::kOfisMusteri;
+constexpr int kSozlesme = bench::kOfisSozlesme;
+constexpr qint64 kSatir = bench::kOfisSatir;
 
 qint64 Sayi(const char* sql) {
   return Genel::Baglanti.Deger(QString::fromLatin1(sql)).toLongLong();

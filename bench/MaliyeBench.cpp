@@ -33,9 +33,9 @@
 
 namespace {
 
-constexpr int kMusteri = 100000;
-constexpr int kSozlesme = 300000;
-constexpr qint64 kSatir = 2000000;
+constexpr int kMusteri = bench::kOfisMusteri;
+constexpr int kSozlesme = bench::kOfisSozlesme;
+constexpr qint64 kSatir = bench::kOfisSatir;
 
 // The peak resident memory of this program since it started. Not getrusage:
 // its peak survives the exec and would be the parent's.

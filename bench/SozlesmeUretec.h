@@ -9,6 +9,11 @@
 
 namespace bench {
 
+// The synthetic office the benchmarks measure on.
+inline constexpr int kOfisMusteri = 100000;
+inline constexpr int kOfisSozlesme = 300000;
+inline constexpr qint64 kOfisSatir = 2000000;
+
 class Uretec;
 
 class SozlesmeUretec {
