@@ -7,6 +7,8 @@
 #include "core/Ekran.h"
 #include "core/Genel.h"
 #include "core/Kutu.h"
+#include "core/Mesaj.h"
+#include "core/Yazdirma.h"
 #include "db/Kayitlar.h"
 
 namespace invoice {
@@ -164,6 +166,21 @@ void FaturaEkrani::MusteriGoster() {
   lblMusteri->setText(m("Soyadi") + QLatin1Char(' ') + m("Adi") + QLatin1Char(' ') + m("Babaadi"));
   lblAdres->setText(m("Adres") + QStringLiteral("  ") + m("Ilce") + QLatin1Char('/') + m("Il_AD"));
   lblVergi->setText(m("VergiDairesi") + QLatin1Char('-') + m("VergiKimlikNo"));
+}
+
+void FaturaEkrani::SatiriYazdir(const std::variant<baski::Kayit, baski::Red>& satir,
+                                fatura::Bicim bicim) {
+  if (const auto* red = std::get_if<baski::Red>(&satir)) {
+    ekran::RedGoster(*red);
+    return;
+  }
+  if (mesaj::Goster(QString::fromUtf16(fatura::kYaziciSorusu),
+                    QString::fromUtf16(fatura::kYaziciBaslik), mesaj::Tur::Soru,
+                    mesaj::Dugmeler::TamamIptal, this) != mesaj::Dugme::Tamam)
+    return;
+  const baski::Sonuc akis =
+      fatura::FaturaAkisi(bicim, std::get<baski::Kayit>(satir), fatura::YaziAyari::Genelden());
+  ekran::Yazdir(Genel::PrinterFatura, akis);
 }
 
 }  // namespace invoice

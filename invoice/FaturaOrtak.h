@@ -4,6 +4,7 @@
 // boxes, the percent box that selects its first three characters, the boxes
 // rewritten as money when left, and the labelled rows of the dialogue.
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QDialog>
 #include <QGridLayout>
@@ -12,6 +13,10 @@
 #include <QPushButton>
 #include <QString>
 #include <initializer_list>
+#include <variant>
+
+#include "core/Ekran.h"
+#include "invoice/FaturaBaski.h"
 
 namespace invoice {
 
@@ -61,6 +66,18 @@ class FaturaEkrani : public QDialog {
   void Yerlestir(QLayout* ust, QGridLayout* rakam, std::initializer_list<QPushButton*> komutlar);
   // Fills the three addressee labels from the customer's row, when there is one.
   void MusteriGoster();
+  // Prints the invoice row in the given layout after the printer question; a
+  // row that can't be printed is told instead.
+  void SatiriYazdir(const std::variant<baski::Kayit, baski::Red>& satir, fatura::Bicim bicim);
 };
+
+// The screen of type T the clerk is in: the one holding the focus, else the
+// open one of that name.
+template <class T>
+T* IcindekiEkran(const QString& ad) {
+  for (QWidget* w = QApplication::focusWidget(); w; w = w->parentWidget())
+    if (auto* e = qobject_cast<T*>(w)) return e;
+  return qobject_cast<T*>(ekran::Acik(ad));
+}
 
 }  // namespace invoice

@@ -202,38 +202,15 @@ void frmFatura::cmdYazdir_Click() {
 
 void frmFatura::FaturaYazdir(bool sabit) {
   cmdSave_Click();
-  const auto satir = fatura::FaturaSatiri(Genel::Baglanti, SozlesmeID, sabit);
-  if (const auto* red = std::get_if<baski::Red>(&satir)) {
-    ekran::RedGoster(*red);
-    return;
-  }
-  if (mesaj::Goster(QString::fromUtf16(fatura::kYaziciSorusu),
-                    QString::fromUtf16(fatura::kYaziciBaslik), mesaj::Tur::Soru,
-                    mesaj::Dugmeler::TamamIptal, this) != mesaj::Dugme::Tamam)
-    return;
-  const baski::Sonuc akis =
-      fatura::FaturaAkisi(sabit ? fatura::Bicim::FaturaSabit : fatura::Bicim::Fatura,
-                          std::get<baski::Kayit>(satir), fatura::YaziAyari::Genelden());
-  ekran::Yazdir(Genel::PrinterFatura, akis);
+  SatiriYazdir(fatura::FaturaSatiri(Genel::Baglanti, SozlesmeID, sabit),
+               sabit ? fatura::Bicim::FaturaSabit : fatura::Bicim::Fatura);
 }
 
 namespace invoice {
 
-namespace {
-
-// The contract screen the clerk is in: the one that holds the focus (its
-// cmdFatura), else the open one.
-frmSozles* SozlesmeEkrani() {
-  for (QWidget* w = QApplication::focusWidget(); w; w = w->parentWidget())
-    if (auto* s = qobject_cast<frmSozles*>(w)) return s;
-  return qobject_cast<frmSozles*>(ekran::Acik(QStringLiteral("frmSozles")));
-}
-
-}  // namespace
-
 void FaturaEkraniKaydet() {
   ekran::KomutKaydet(QStringLiteral("frmFatura"), [] {
-    frmSozles* s = SozlesmeEkrani();
+    frmSozles* s = IcindekiEkran<frmSozles>(QStringLiteral("frmSozles"));
     if (!s) return;
     frmFatura f(s, s->window());
     f.Form_Load();

@@ -166,36 +166,15 @@ void frmFaturaEk::FaturaEkYazdir(bool sabit) {
   cmdSave_Click();
   bool sayi = false;
   const qint64 no = txtFaturaNo->text().trimmed().toLongLong(&sayi);
-  const auto satir = fatura::EkFaturaSatiri(Genel::Baglanti, txtFaturaSeri->text(), sayi ? no : 0);
-  if (const auto* red = std::get_if<baski::Red>(&satir)) {
-    ekran::RedGoster(*red);
-    return;
-  }
-  if (mesaj::Goster(QString::fromUtf16(fatura::kYaziciSorusu),
-                    QString::fromUtf16(fatura::kYaziciBaslik), mesaj::Tur::Soru,
-                    mesaj::Dugmeler::TamamIptal, this) != mesaj::Dugme::Tamam)
-    return;
-  const baski::Sonuc akis =
-      fatura::FaturaAkisi(sabit ? fatura::Bicim::EkSabit : fatura::Bicim::Ek,
-                          std::get<baski::Kayit>(satir), fatura::YaziAyari::Genelden());
-  ekran::Yazdir(Genel::PrinterFatura, akis);
+  SatiriYazdir(fatura::EkFaturaSatiri(Genel::Baglanti, txtFaturaSeri->text(), sayi ? no : 0),
+               sabit ? fatura::Bicim::EkSabit : fatura::Bicim::Ek);
 }
 
 namespace invoice {
 
-namespace {
-
-frmMusteri* MusteriEkrani() {
-  for (QWidget* w = QApplication::focusWidget(); w; w = w->parentWidget())
-    if (auto* m = qobject_cast<frmMusteri*>(w)) return m;
-  return qobject_cast<frmMusteri*>(ekran::Acik(QStringLiteral("frmMusteri")));
-}
-
-}  // namespace
-
 void FaturaEkEkraniKaydet() {
   ekran::KomutKaydet(QStringLiteral("frmFaturaEk"), [] {
-    frmMusteri* m = MusteriEkrani();
+    frmMusteri* m = IcindekiEkran<frmMusteri>(QStringLiteral("frmMusteri"));
     if (!m) return;
     frmFaturaEk f(m, m->window());
     f.Form_Load();
