@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QHash>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QPointer>
@@ -296,6 +297,26 @@ void FormOrtala(QWidget* ekran, int yukseklik, int genislik, bool kaydirmaYok) {
   const int ust = alan.height() / 2 - cerceve->height() / 2 - ustKay;
   cerceve->move(std::max(0, sol), std::max(0, ust));
 }
+
+BeklemeNotu::BeklemeNotu(const QString& metin) {
+  QWidget* ana = AnaPencere();
+  if (!ana || !ana->isVisible()) return;
+  // A child of the main window: it takes no focus and no activation away.
+  auto* l = new QLabel(metin, ana);
+  l->setFrameStyle(QFrame::Box | QFrame::Plain);
+  l->setMargin(24);
+  l->setAutoFillBackground(true);
+  l->adjustSize();
+  l->move(ana->rect().center() - l->rect().center());
+  l->show();
+  l->raise();
+  // Let the window come up and paint the note now: the step that follows
+  // keeps the event loop busy.
+  for (int i = 0; i < 3; ++i) QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  not_ = l;
+}
+
+BeklemeNotu::~BeklemeNotu() { delete not_; }
 
 void Bekle(int ms) {
   if (gAnlik || ms <= 0) {

@@ -3,11 +3,12 @@
 // filters, sizing and centring, waiting, and the registry through which the
 // main window opens screens by name.
 
+#include <QPointer>
 #include <QString>
+#include <QWidget>
 #include <functional>
 
 class QLineEdit;
-class QWidget;
 class QComboBox;
 
 namespace ekran {
@@ -63,6 +64,20 @@ int Twip(int twip);
 void FormOrtala(QWidget* ekran, int yukseklik, int genislik, bool kaydirmaYok = false);
 
 // --- waiting
+// A note in the middle of the main window while a long step of the start-up
+// runs, before any screen is there to show progress; gone when the object
+// goes. Nothing is shown without a visible main window.
+class BeklemeNotu {
+ public:
+  explicit BeklemeNotu(const QString& metin);
+  ~BeklemeNotu();
+  BeklemeNotu(const BeklemeNotu&) = delete;
+  BeklemeNotu& operator=(const BeklemeNotu&) = delete;
+
+ private:
+  QPointer<QWidget> not_;
+};
+
 // Keeps the interface alive for `ms` milliseconds. Tests make it instant.
 void Bekle(int ms);
 void BekleAnlik(bool anlik);

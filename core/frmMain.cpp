@@ -9,6 +9,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <optional>
 
 #include "core/BakimKomut.h"
 #include "core/Ekran.h"
@@ -267,7 +268,11 @@ void frmMain::VeriTabaniAc() {
     // this takes a few seconds, once); one that can't take them now still
     // opens, only its reports are slower.
     try {
-      db::IndeksleriTamamla(Genel::Baglanti);
+      std::optional<ekran::BeklemeNotu> not_;
+      db::IndeksleriTamamla(Genel::Baglanti, [&not_] {
+        not_.emplace(
+            QStringLiteral("Veri tabanı raporlar için hazırlanıyor, lütfen bekleyiniz..."));
+      });
     } catch (const db::Hata&) {
     }
   } else {
@@ -277,6 +282,10 @@ void frmMain::VeriTabaniAc() {
 
 void frmMain::GunlukYedek() {
   try {
+    std::optional<ekran::BeklemeNotu> not_;
+    if (Genel::Baglanti.Acik() &&
+        !QFile::exists(db::TarihliYedekYolu(Genel::Baglanti.Yol(), QDate::currentDate())))
+      not_.emplace(QStringLiteral("Günlük yedek alınıyor, lütfen bekleyiniz..."));
     db::GunlukYedekAl(Genel::Baglanti, QDate::currentDate());
   } catch (const db::Hata& h) {
     mesaj::Uyari(QStringLiteral("Günlük yedek alınamadı.\n") + h.metin(), QStringLiteral("UYARI"));

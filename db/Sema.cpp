@@ -314,7 +314,7 @@ const QStringList& Iller() {
   return liste;
 }
 
-void IndeksleriTamamla(Baglanti& b) {
+void IndeksleriTamamla(Baglanti& b, const std::function<void()>& basliyor) {
   QStringList eksik;
   for (const Indeks& i : kIndeksler)
     if (NullMu(b.Deger(
@@ -322,6 +322,7 @@ void IndeksleriTamamla(Baglanti& b) {
             {QString::fromLatin1(i.ad)})))
       eksik << QString::fromLatin1(i.ad);
   if (eksik.isEmpty()) return;
+  if (basliyor) basliyor();
   Islem islem(b);
   for (const Indeks& i : kIndeksler) {
     if (!eksik.contains(QString::fromLatin1(i.ad))) continue;

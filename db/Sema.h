@@ -2,6 +2,7 @@
 // The tables, views and reference data of a new database.
 
 #include <QStringList>
+#include <functional>
 
 namespace db {
 
@@ -21,7 +22,9 @@ void GorunumleriKur(Baglanti& b);
 // the schema (once: an index already there is left alone), and drops the
 // narrower index they replace. Called on a new file too, so that both get
 // the same.
-void IndeksleriTamamla(Baglanti& b);
+// `basliyor` is told before anything is created, so that a caller can say
+// that a long step runs.
+void IndeksleriTamamla(Baglanti& b, const std::function<void()>& basliyor = {});
 
 // Puts the delivered print template into SozlesmeTanim when the table is
 // empty (a new database, or an office that never had one); true when it did.
