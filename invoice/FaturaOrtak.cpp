@@ -10,6 +10,7 @@
 #include "core/Mesaj.h"
 #include "core/Yazdirma.h"
 #include "db/Kayitlar.h"
+#include "invoice/FaturaHesap.h"
 
 namespace invoice {
 
@@ -181,6 +182,28 @@ void FaturaEkrani::SatiriYazdir(const std::variant<baski::Kayit, baski::Red>& sa
   const baski::Sonuc akis =
       fatura::FaturaAkisi(bicim, std::get<baski::Kayit>(satir), fatura::YaziAyari::Genelden());
   ekran::Yazdir(Genel::PrinterFatura, akis);
+}
+
+bool FaturaEkrani::txtFaturaSeri_Validate() {
+  if (txtFaturaSeri->text().trimmed().isEmpty()) txtFaturaSeri->setText(Genel::FaturaSeri);
+  return true;
+}
+
+void FaturaEkrani::NoGoster(const std::optional<qint64>& no) {
+  if (!no) {
+    mesaj::Kritik(QString::fromUtf16(fatura::kNoYok), QString::fromUtf16(fatura::kNoYokBaslik));
+    txtFaturaNo->setFocus();
+    return;
+  }
+  txtFaturaSeri->setText(Genel::FaturaSeri);
+  txtFaturaNo->setText(QString::number(*no));
+}
+
+bool FaturaEkrani::NoGirildi() {
+  if (!txtFaturaNo->text().isEmpty()) return true;
+  mesaj::Kritik(QString::fromUtf16(fatura::kNoGir), QStringLiteral("Hata"));
+  txtFaturaNo->setFocus();
+  return false;
 }
 
 }  // namespace invoice

@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QString>
 #include <initializer_list>
+#include <optional>
 #include <variant>
 
 #include "core/Ekran.h"
@@ -50,6 +51,9 @@ class FaturaEkrani : public QDialog {
   QLineEdit* txtMusteriNo;  // hidden, carried for the save
   QPushButton *cmdFatNo, *cmdSave, *cmdYazdir, *cmdExit;
 
+  // An emptied series box takes the office's invoice series again.
+  bool txtFaturaSeri_Validate();
+
  protected:
   // `tutarKilitli`: the amount comes from elsewhere and can't be typed.
   FaturaEkrani(const char* ad, const QString& baslik, bool tutarKilitli, QWidget* ust);
@@ -66,6 +70,10 @@ class FaturaEkrani : public QDialog {
   void Yerlestir(QLayout* ust, QGridLayout* rakam, std::initializer_list<QPushButton*> komutlar);
   // Fills the three addressee labels from the customer's row, when there is one.
   void MusteriGoster();
+  // Puts the next free number into the boxes, or says there is none.
+  void NoGoster(const std::optional<qint64>& no);
+  // The save's first check: a number must be there.
+  bool NoGirildi();
   // Prints the invoice row in the given layout after the printer question; a
   // row that can't be printed is told instead.
   void SatiriYazdir(const std::variant<baski::Kayit, baski::Red>& satir, fatura::Bicim bicim);

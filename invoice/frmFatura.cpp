@@ -126,30 +126,13 @@ void frmFatura::Hesapla() {
 }
 
 void frmFatura::FatNoBul() {
-  const std::optional<qint64> no =
-      fatura::SonrakiNo(Genel::Baglanti, Genel::FaturaSeri, QDate::currentDate());
-  if (!no) {
-    mesaj::Kritik(QString::fromUtf16(fatura::kNoYok), QString::fromUtf16(fatura::kNoYokBaslik));
-    txtFaturaNo->setFocus();
-    return;
-  }
-  txtFaturaSeri->setText(Genel::FaturaSeri);
-  txtFaturaNo->setText(QString::number(*no));
-}
-
-bool frmFatura::txtFaturaSeri_Validate() {
-  if (txtFaturaSeri->text().trimmed().isEmpty()) txtFaturaSeri->setText(Genel::FaturaSeri);
-  return true;
+  NoGoster(fatura::SonrakiNo(Genel::Baglanti, Genel::FaturaSeri, QDate::currentDate()));
 }
 
 // --- commands
 
 bool frmFatura::cmdSave_Click() {
-  if (txtFaturaNo->text().isEmpty()) {
-    mesaj::Kritik(QString::fromUtf16(fatura::kNoGir), QStringLiteral("Hata"));
-    txtFaturaNo->setFocus();
-    return false;
-  }
+  if (!NoGirildi()) return false;
   fatura::Satir s;
   s.FaturaSeri = txtFaturaSeri->text();
   s.FaturaNo = txtFaturaNo->text();

@@ -38,7 +38,6 @@ class frmFatura : public invoice::FaturaEkrani {
   void cmdYazdir_Click();
   void cmdExit_Click();
   void cmdFatNo_Click() { FatNoBul(); }
-  bool txtFaturaSeri_Validate();
 
   // FaturaYazdir and FaturaYazdirSabit; cmdYazdir chooses.
   void FaturaYazdir(bool sabit);

@@ -99,28 +99,10 @@ void frmFaturaEk::Hesapla() {
   hesapliyor_ = false;
 }
 
-void frmFaturaEk::FatNoBul() {
-  const std::optional<qint64> no = fatura::EkSonrakiNo(Genel::Baglanti, Genel::FaturaSeri);
-  if (!no) {
-    mesaj::Kritik(QString::fromUtf16(fatura::kNoYok), QString::fromUtf16(fatura::kNoYokBaslik));
-    txtFaturaNo->setFocus();
-    return;
-  }
-  txtFaturaSeri->setText(Genel::FaturaSeri);
-  txtFaturaNo->setText(QString::number(*no));
-}
-
-bool frmFaturaEk::txtFaturaSeri_Validate() {
-  if (txtFaturaSeri->text().trimmed().isEmpty()) txtFaturaSeri->setText(Genel::FaturaSeri);
-  return true;
-}
+void frmFaturaEk::FatNoBul() { NoGoster(fatura::EkSonrakiNo(Genel::Baglanti, Genel::FaturaSeri)); }
 
 bool frmFaturaEk::cmdSave_Click() {
-  if (txtFaturaNo->text().isEmpty()) {
-    mesaj::Kritik(QString::fromUtf16(fatura::kNoGir), QStringLiteral("Hata"));
-    txtFaturaNo->setFocus();
-    return false;
-  }
+  if (!NoGirildi()) return false;
   fatura::Satir s;
   s.FaturaSeri = txtFaturaSeri->text();
   s.FaturaNo = txtFaturaNo->text();

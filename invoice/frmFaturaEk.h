@@ -25,7 +25,6 @@ class frmFaturaEk : public invoice::FaturaEkrani {
   void cmdYazdir_Click();
   void cmdExit_Click();
   void cmdFatNo_Click() { FatNoBul(); }
-  bool txtFaturaSeri_Validate();
 
   // FaturaEkYazdir and FaturaEkYazdirSabit; cmdYazdir chooses.
   void FaturaEkYazdir(bool sabit);
