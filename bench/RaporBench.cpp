@@ -38,6 +38,8 @@
 #include "reports/frmMusteriDurum.h"
 #include "reports/frmTahsilat.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using olcum::Olc;
@@ -140,11 +142,12 @@ int main(int argc, char** argv) {
   std::printf("%lld müşteri, %lld sözleşme, %lld satır: %lld ms\n",
               Sayi("SELECT count(*) FROM Musteri"), Sayi("SELECT count(*) FROM Sozlesme"),
               Sayi("SELECT count(*) FROM SozlesmeDetay"), t.elapsed());
-  // The reports' indexes, as the program adds them when it opens a file made
-  // before them (nothing to do on a file that has them).
+  // The reports' indexes and the customers' summary, as the program adds them
+  // when it opens a file made before them (nothing to do on a file that has
+  // them).
   t.restart();
-  db::IndeksleriTamamla(Genel::Baglanti);
-  std::printf("rapor indeksleri: %lld ms\n", t.elapsed());
+  db::RaporlariHazirla(Genel::Baglanti);
+  std::printf("rapor indeksleri ve müşteri özeti: %lld ms\n", t.elapsed());
   // The newest year on the books.
   const QDate son = QDate::fromString(
       Genel::Baglanti.Deger(QStringLiteral("SELECT max(Vadesi) FROM SozlesmeDetay")).toString(),
@@ -160,6 +163,18 @@ int main(int argc, char** argv) {
   }
   const olcum::Olcum durum = Olc(3, [](int) { musteridurum::Oku(QDate::currentDate()); });
   Yaz("Müşteri cari raporu: sorgu", durum, 1000);
+  {
+    // "Now" a year before the newest maturity: every paper paid after it is
+    // at risk and is read from the lines.
+    const QString yarisi = son.addYears(-1).toString(Qt::ISODate);
+    std::printf("  (%lld belge riskte)\n",
+                Genel::Baglanti.Deger(u"SELECT count(*) FROM SozlesmeDetay WHERE Odenmesi > ?"_s,
+                                      {yarisi})
+                    .toLongLong());
+    Yaz("Müşteri cari raporu: bir yılı riskte", Olc(3, [&](int) {
+          musteridurum::Oku(son.addYears(-1));
+        }), 1000);
+  }
   Yaz("Müşteri cari raporu: ekran açılışı",
       Olc(3,
           [](int) {

@@ -79,6 +79,8 @@ bool GeriYukle(const QString& yedek, const QString& tarih) {
                   kUyari);
     return false;
   }
+  // A copy from before the reports' summary gets it now.
+  frmMain::RaporlariHazirla();
   if (auto* ana = qobject_cast<frmMain*>(ekran::AnaPencere())) ana->FirmaYenile();
   mesaj::Bilgi(QStringLiteral("Veri tabanı yedekten geri yüklendi. Önceki hali %1 dosyasında "
                               "saklandı.")

@@ -264,19 +264,23 @@ void frmMain::VeriTabaniAc() {
       db::SablonBossaYukle(Genel::Baglanti);
     } catch (const db::Hata&) {
     }
-    // A file from before the reports' indexes gets them now (on a large file
-    // this takes a few seconds, once); one that can't take them now still
-    // opens, only its reports are slower.
-    try {
-      std::optional<ekran::BeklemeNotu> not_;
-      db::IndeksleriTamamla(Genel::Baglanti, [&not_] {
-        not_.emplace(
-            QStringLiteral("Veri tabanı raporlar için hazırlanıyor, lütfen bekleyiniz..."));
-      });
-    } catch (const db::Hata&) {
-    }
+    RaporlariHazirla();
   } else {
     Genel::Baglanti.Olustur(yol);
+  }
+}
+
+void frmMain::RaporlariHazirla() {
+  // A file from before the reports' indexes and summary gets them now (on a
+  // large file this takes a few seconds, once); one that can't take them now
+  // still opens, only its reports are slower.
+  try {
+    std::optional<ekran::BeklemeNotu> not_;
+    db::RaporlariHazirla(Genel::Baglanti, [&not_] {
+      not_.emplace(
+          QStringLiteral("Veri tabanı raporlar için hazırlanıyor, lütfen bekleyiniz..."));
+    });
+  } catch (const db::Hata&) {
   }
 }
 

@@ -51,6 +51,9 @@ class frmMain : public QMainWindow {
   bool Form_Load();
   // Opens the database file, or creates it on the first start.
   static void VeriTabaniAc();
+  // Adds what the reports read to a file made before it (with a note on the
+  // window while it runs); a failure leaves the reports only slower.
+  static void RaporlariHazirla();
   // Reads the office's row into the globals; throws when it is missing or
   // holds a Null in one of the columns read.
   static void FirmaOku();

@@ -180,13 +180,20 @@ void Kayitlar::Sort(const QString& alan, bool artan) {
     return h.tur == Hucre::Bos ? 0 : (h.tur == Hucre::Yazi ? 2 : 1);
   };
   const auto sayi = [](const Hucre& h) { return h.tur == Hucre::Tam ? double(h.tam) : h.ondalik; };
+  // Texts by their Turkish sort keys, each made once: a sort compares every
+  // row many times.
+  std::vector<std::string> anahtar(static_cast<std::size_t>(satirSayisi_));
+  for (int r = 0; r < satirSayisi_; ++r) {
+    const Hucre& h = HucreAl(r, a);
+    if (h.tur == Hucre::Yazi) turkce::SiraAnahtari(YaziBasi(h), h.yazi.boy, anahtar[std::size_t(r)]);
+  }
   const auto kiyasla = [&](int x, int y) {
     const Hucre& hx = HucreAl(x, a);
     const Hucre& hy = HucreAl(y, a);
     const int sx = sinif(hx), sy = sinif(hy);
     if (sx != sy) return sx < sy ? -1 : 1;
     if (sx == 0) return 0;
-    if (sx == 2) return turkce::Karsilastir(YaziBasi(hx), hx.yazi.boy, YaziBasi(hy), hy.yazi.boy);
+    if (sx == 2) return anahtar[std::size_t(x)].compare(anahtar[std::size_t(y)]);
     if (hx.tur == Hucre::Tam && hy.tur == Hucre::Tam)
       return hx.tam < hy.tam ? -1 : (hx.tam > hy.tam ? 1 : 0);
     const double vx = sayi(hx), vy = sayi(hy);

@@ -1,6 +1,7 @@
 #include "db/Sema.h"
 
 #include "db/Baglanti.h"
+#include "db/Cari.h"
 
 namespace db {
 
@@ -314,14 +315,15 @@ const QStringList& Iller() {
   return liste;
 }
 
-void IndeksleriTamamla(Baglanti& b, const std::function<void()>& basliyor) {
+void RaporlariHazirla(Baglanti& b, const std::function<void()>& basliyor) {
   QStringList eksik;
   for (const Indeks& i : kIndeksler)
     if (NullMu(b.Deger(
             QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'index' AND name = ?"),
             {QString::fromLatin1(i.ad)})))
       eksik << QString::fromLatin1(i.ad);
-  if (eksik.isEmpty()) return;
+  const bool ozetVar = CariOzetVar(b);
+  if (eksik.isEmpty() && ozetVar) return;
   if (basliyor) basliyor();
   Islem islem(b);
   for (const Indeks& i : kIndeksler) {
@@ -331,6 +333,7 @@ void IndeksleriTamamla(Baglanti& b, const std::function<void()>& basliyor) {
     if (i.yerine)
       b.Calistir(QStringLiteral("DROP INDEX IF EXISTS %1").arg(QString::fromLatin1(i.yerine)));
   }
+  if (!ozetVar) CariOzetKur(b);
   islem.Onayla();
 }
 
@@ -364,7 +367,7 @@ void SemaOlustur(Baglanti& b) {
   b.Calistir(QString::fromUtf8(kTablolar));
   HesapTablolariOlustur(b);
   GorunumleriKur(b);
-  IndeksleriTamamla(b);
+  RaporlariHazirla(b);
   for (int i = 0; i < Iller().size(); ++i)
     b.Calistir(QStringLiteral("INSERT INTO Il_Trafik_Kodu(IlKod, Il) VALUES (?, ?)"),
                {i + 1, Iller()[i]});

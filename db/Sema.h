@@ -18,13 +18,14 @@ void HesapTablolariOlustur(Baglanti& b);
 // Lays the three views anew (dropping those that stand), in one transaction.
 void GorunumleriKur(Baglanti& b);
 
-// Adds the indexes of the reports to a file made before they were part of
-// the schema (once: an index already there is left alone), and drops the
-// narrower index they replace. Called on a new file too, so that both get
-// the same.
+// Adds what the reports read to a file made before it was part of the
+// schema, in one transaction: their indexes (an index already there is left
+// alone; the narrower index one replaces is dropped) and the customers'
+// summary with its triggers (laid anew when any piece of it is missing).
+// Called on a new file too, so that both get the same.
 // `basliyor` is told before anything is created, so that a caller can say
 // that a long step runs.
-void IndeksleriTamamla(Baglanti& b, const std::function<void()>& basliyor = {});
+void RaporlariHazirla(Baglanti& b, const std::function<void()>& basliyor = {});
 
 // Puts the delivered print template into SozlesmeTanim when the table is
 // empty (a new database, or an office that never had one); true when it did.

@@ -179,6 +179,30 @@ int Karsilastir(const char* a, std::size_t na, const char* b, std::size_t nb) {
   return Sirala(Utf8(a, na), Utf8(b, nb));
 }
 
+void SiraAnahtari(const char* p, std::size_t n, std::string& hedef) {
+  // Three runs, one per level of Sirala: the base letters (four bytes each,
+  // one above their place so that the closing zeros sort before any of
+  // them), then the circumflexes, then the cases. Texts whose base letters
+  // agree have as many characters, so the second and third runs line up.
+  hedef.clear();
+  std::string ikincil, ucuncul;
+  Utf8 okuyucu(p, n);
+  char32_t c;
+  while (okuyucu.Sonraki(c)) {
+    const Anahtar k = AnahtarBul(c);
+    const std::uint32_t b = k.birincil + 1;
+    hedef.push_back(char(b >> 24));
+    hedef.push_back(char(b >> 16));
+    hedef.push_back(char(b >> 8));
+    hedef.push_back(char(b));
+    ikincil.push_back(char(k.ikincil));
+    ucuncul.push_back(char(k.ucuncul));
+  }
+  hedef.append(4, '\0');
+  hedef += ikincil;
+  hedef += ucuncul;
+}
+
 char32_t Buyuk(char32_t c) {
   if (c < 0x80) return (c >= 'a' && c <= 'z') ? (c == 'i' ? U'İ' : c - 32) : c;
   if (c == U'ı') return U'I';

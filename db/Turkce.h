@@ -14,6 +14,11 @@ namespace db::turkce {
 // (capitals first). Digits and signs come before letters.
 int Karsilastir(const char* a, std::size_t na, const char* b, std::size_t nb);
 
+// A key whose bytes, compared as memcmp compares them, order texts as
+// Karsilastir does: equal keys for texts it calls equal. For sorting many
+// texts, each read once.
+void SiraAnahtari(const char* p, std::size_t n, std::string& hedef);
+
 // Upper case of one character by Turkish rules: i -> İ, ı -> I.
 char32_t Buyuk(char32_t c);
 

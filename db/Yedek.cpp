@@ -11,7 +11,9 @@
 #include <cerrno>
 #include <cstring>
 
+#include "db/Cari.h"
 #include "db/Kayitlar.h"
+#include "db/Sema.h"
 
 namespace db {
 
@@ -265,6 +267,15 @@ QString Sikistir(Baglanti& baglanti, const QDate& gun) {
     // indexes of the new file.
     baglanti.Calistir(QStringLiteral("VACUUM INTO ?"), {yeni});
     QFile::setPermissions(yeni, kIzin);
+    {
+      // The reports' summary is made anew from the lines in the new file:
+      // whatever another program did to the file behind its triggers'
+      // back, the summary agrees with the lines again.
+      Baglanti k;
+      k.Ac(yeni);
+      CariOzetKur(k);
+      RaporlariHazirla(k);
+    }
     YedekDenetle(yeni);
     Esitle(yeni);
     // The old file keeps a second name, the backup's; without hard links

@@ -12,6 +12,7 @@
 #include <QFile>
 #include <atomic>
 #include <chrono>
+#include <cstdlib>
 #include <functional>
 #include <future>
 #include <thread>
@@ -98,6 +99,40 @@ TEST_F(Baglanti, TurkceSiralamaMotordaVeKayitlarda) {
   for (int i = 1; i < sirali.size(); ++i)
     EXPECT_LT(db::TurkceKarsilastir(sirali[i - 1], sirali[i]), 0) << sirali[i].toStdString();
   EXPECT_EQ(db::TurkceBuyuk("istanbul ılıca çiğ"), u"İSTANBUL ILICA ÇİĞ"_s);
+  EXPECT_EQ(Sorgu("SELECT Soyadi FROM Musteri WHERE Soyadi IS NOT NULL "
+                  "ORDER BY TurkceSira(Soyadi)"),
+            beklenen);
+}
+
+// The sort keys order any two texts as the collation does, equal ones
+// included: texts that differ in case or circumflex only, where one is the
+// other's beginning, foreign letters, signs and bytes that are no UTF-8.
+TEST_F(Baglanti, SiraAnahtariHarmanlamaIleAyni) {
+  const QStringList harfler = {"a", "A", "â", "Â", "ı", "I", "i", "İ", "ç", "c", "Ç",
+                               "ş", "S", " ", "1", "-", "é", "É", "ß", "ǅ", "\x01"};
+  std::srand(7);
+  const auto rastgele = [&] {
+    QString s;
+    for (int n = std::rand() % 5; n > 0; --n) s += harfler[std::rand() % harfler.size()];
+    return s;
+  };
+  const QString karsilastir =
+      "SELECT CASE WHEN TurkceSira(?1) < TurkceSira(?2) THEN -1 "
+      "WHEN TurkceSira(?1) > TurkceSira(?2) THEN 1 ELSE 0 END, "
+      "CASE WHEN ?1 < ?2 COLLATE TURKCE THEN -1 WHEN ?1 > ?2 COLLATE TURKCE THEN 1 ELSE 0 END";
+  int esit = 0;
+  for (int i = 0; i < 4000; ++i) {
+    const QString a = rastgele(), b = i % 3 ? rastgele() : a.toUpper();
+    const db::Kayitlar rs = b_.Sorgu(karsilastir, {a, b});
+    ASSERT_EQ(rs.Deger(0, 0).toInt(), rs.Deger(0, 1).toInt())
+        << a.toStdString() << " / " << b.toStdString();
+    esit += rs.Deger(0, 1).toInt() == 0;
+  }
+  EXPECT_GT(esit, 100);
+  // Bytes that are no UTF-8 read as the same replacement character.
+  EXPECT_EQ(Sorgu("SELECT TurkceSira(CAST(x'41ff42' AS TEXT)) = TurkceSira(CAST(x'41fe42' AS TEXT)), "
+                  "quote(TurkceSira(NULL))"),
+            "1|NULL");
 }
 
 TEST_F(Baglanti, LikeTurkceBuyukKucukHarfVeEscape) {

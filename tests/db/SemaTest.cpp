@@ -58,6 +58,7 @@ TEST_F(Sema, TablolarGorunumlerVeSutunlari) {
       "Musteri: *MusteriNo VergiKimlikNo VergiDairesi Soyadi Adi BabaAdi Adres Ilce PostaKod "
       "IlKod Il_Ad UlkeKod TCKimlikNo Uyruk VekilDurum VekilVergiKimlik VekilSoyadi VekilAdi "
       "HukukiDurum Aranacak Telefon Fax\n"
+      "MusteriCari: *MusteriNo Belge Tutar TutarAdet Batak BatakAdet Gun GunAdet\n"
       "MusteriQry: MusteriNo Soyadi Adi Bulunacak\n"
       "Sozlesme: *SozlesmeID SozlesmeSeri SozlesmeNo MusteriNo Tarih Tutar FaizOran GecikmeOran "
       "IskontoOran FaizTutar Yaziyla Gun ilaveGun Doviz Hesapla TutarTL FaizTutarTL\n"
@@ -149,9 +150,9 @@ TEST_F(Sema, RaporIndeksleriEskiDosyayaEklenir) {
   // The caller is told once, before the long step, and not when nothing is
   // missing.
   int haber = 0;
-  db::IndeksleriTamamla(b_, [&] { ++haber; });
+  db::RaporlariHazirla(b_, [&] { ++haber; });
   EXPECT_EQ(Sorgu(indeksler), yeni);
-  db::IndeksleriTamamla(b_, [&] { ++haber; });
+  db::RaporlariHazirla(b_, [&] { ++haber; });
   EXPECT_EQ(Sorgu(indeksler), yeni);
   EXPECT_EQ(haber, 1);
   EXPECT_EQ(Sorgu("SELECT Kesideci FROM SozlesmeDetay INDEXED BY SozlesmeDetay_Kesideci "

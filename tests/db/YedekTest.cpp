@@ -133,6 +133,10 @@ TEST_F(Yedek, YedekYazilamazsaVeriTabaniDokunulmaz) {
 TEST_F(Yedek, IkiBakimAyniGunde) {
   Musteri(1, u"İnce"_s);
   b().Calistir("DELETE FROM Il_Trafik_Kodu");  // room to win back
+  // A summary that another program put out of step with the lines.
+  b().Calistir("INSERT INTO Sozlesme(SozlesmeID, MusteriNo, Tarih) VALUES (1, 1, '2026-11-01')");
+  b().Calistir("INSERT INTO SozlesmeDetay(SozlesmeID, Vadesi, Meblag) VALUES (1, '2026-12-01', 2.5)");
+  b().Calistir("UPDATE MusteriCari SET Tutar = 7, Gun = 0");
   const qint64 boy = QFileInfo(Yol()).size();
   const QByteArray ilk = Icerik(Yol());
 
@@ -143,6 +147,8 @@ TEST_F(Yedek, IkiBakimAyniGunde) {
   EXPECT_EQ(QFile::permissions(Yol()) & QFileDevice::Permissions(0x7077),
             QFileDevice::ReadOwner | QFileDevice::WriteOwner);
   Kullanilabilir();
+  // The new file's summary is made from its lines.
+  EXPECT_EQ(b().Deger("SELECT Tutar || ' ' || Gun FROM MusteriCari").toString(), "2500000 30");
 
   // The second run of the day keeps the first run's result as the backup.
   Musteri(2, "Uz");

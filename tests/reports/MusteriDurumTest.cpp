@@ -7,6 +7,8 @@
 #include <QtTest/QTest>
 
 #include "core/Genel.h"
+#include "db/Cari.h"
+#include "db/Sema.h"
 #include "reports/MusteriDurum.h"
 #include "reports/frmMusteriDurum.h"
 #include "tests/support/Ortam.h"
@@ -115,13 +117,89 @@ QString Yuvarlak(const db::Kayitlar& rs) {
     QStringList s;
     for (int c = 0; c < rs.AlanSayisi(); ++c) {
       const QVariant v = rs.Deger(r, c);
-      s << (db::NullMu(v)                     ? QString("NULL")
-            : v.typeId() == QMetaType::Double ? QString::number(v.toDouble(), 'f', 6)
-                                              : v.toString());
+      const bool sayi = v.typeId() == QMetaType::Double || v.typeId() == QMetaType::LongLong;
+      s << (db::NullMu(v) ? QString("NULL")
+            : sayi        ? QString::number(v.toDouble(), 'f', 6)
+                          : v.toString());
     }
     l << s.join('|');
   }
   return l.join('\n');
+}
+
+// The figures of every customer, as the grid reads them and as the plain
+// statement gives them.
+QString DuzIleFark() {
+  const QString bugun = QDate::currentDate().toString(Qt::ISODate);
+  const QString grid = Yuvarlak(musteridurum::Oku(QDate::currentDate()));
+  const QString duz = Yuvarlak(Genel::Baglanti.Sorgu(QString::fromLatin1(kDuzSorgu) + ", 1",
+                                                     {bugun, bugun, bugun, bugun}));
+  return grid == duz ? QString() : grid + "\n--- düz sorgu:\n" + duz;
+}
+
+// The summary's rows, less those that came down to nothing.
+QString CariTablosu() {
+  return Yuvarlak(Genel::Baglanti.Sorgu(
+      "SELECT * FROM MusteriCari WHERE max(abs(Belge), abs(Tutar), abs(TutarAdet), abs(Batak), "
+      "abs(BatakAdet), abs(Gun), abs(GunAdet)) > 0 ORDER BY MusteriNo"));
+}
+
+// The summary behind the grid follows every way a paper or a contract
+// changes, also when another program writes the file: after each change it
+// holds what a summary made anew from the lines holds, and the grid says what
+// the plain statement says. Without its summary (a file the window program
+// never opened) the grid reads the lines and says the same.
+TEST_F(MusteriDurum, OzetHerDegisiklikteSatirlarlaAyni) {
+  // Maturities that the day count reads and refuses alike.
+  Calistir("INSERT INTO Musteri(MusteriNo, Soyadi, HukukiDurum) VALUES (30, 'TARİH', 2)");
+  Calistir("INSERT INTO Sozlesme(SozlesmeID, MusteriNo, Tarih) VALUES (30, 30, '2024-02-28')");
+  for (const QVariant& v :
+       {QVariant("2024-02-29"), QVariant("2023-02-29"), QVariant("2024-03-01 10:00"),
+        QVariant("2024-03-01T10:00"), QVariant("2024-03-01x"), QVariant("2024-3-01"),
+        QVariant(""), QVariant(20240301), QVariant("2024-02-30"), QVariant("0000-01-01")})
+    Calistir("INSERT INTO SozlesmeDetay(SozlesmeID, Vadesi, Odenmesi, Meblag) VALUES (30, ?, "
+             "'2024-01-01', 1)",
+             {v});
+  const auto ayni = [&](const char* adim) {
+    SCOPED_TRACE(adim);
+    const QString tutulan = CariTablosu();
+    EXPECT_EQ(DuzIleFark(), QString());
+    db::CariOzetKur(Genel::Baglanti);
+    EXPECT_EQ(tutulan, CariTablosu());
+  };
+  ayni("başta");
+  const QString bugun = Gun(0);
+  Calistir("UPDATE SozlesmeDetay SET Odenmesi = NULL WHERE SozlesmeID = 1");
+  Calistir("UPDATE SozlesmeDetay SET Odenmesi = ? WHERE SozlesmeID = 6", {Gun(3)});
+  Calistir("UPDATE SozlesmeDetay SET Meblag = Meblag * 3 + 0.07, Vadesi = ? WHERE SozlesmeID = 2",
+           {Gun(9)});
+  ayni("durum, tutar, vade");
+  Calistir("UPDATE SozlesmeDetay SET SozlesmeID = 4 WHERE SozlesmeID = 3 AND Meblag < 1");
+  Calistir("DELETE FROM SozlesmeDetay WHERE SozlesmeID = 2 AND Odenmesi IS NULL");
+  Calistir("INSERT INTO SozlesmeDetay(SozlesmeID, Vadesi, Odenmesi, Meblag) VALUES (5, ?, ?, 2.5)",
+           {bugun, bugun});
+  ayni("satır taşı, sil, ekle");
+  Calistir("UPDATE Sozlesme SET MusteriNo = 6, Tarih = ? WHERE SozlesmeID = 1", {Gun(-90)});
+  Calistir("UPDATE Sozlesme SET MusteriNo = NULL WHERE SozlesmeID = 4");
+  ayni("sözleşmenin müşterisi ve tarihi");
+  Calistir("DELETE FROM Sozlesme WHERE SozlesmeID = 3");  // its lines stay, orphaned
+  Calistir("INSERT INTO SozlesmeDetay(SozlesmeID, Vadesi, Odenmesi, Meblag) VALUES (77, ?, ?, 4)",
+           {bugun, bugun});
+  ayni("sözleşme elle silindi");
+  Calistir("INSERT INTO Sozlesme(SozlesmeID, MusteriNo, Tarih) VALUES (77, 3, ?), (3, 2, ?)",
+           {Gun(-2), Gun(-8)});
+  Calistir("UPDATE Sozlesme SET SozlesmeID = 78 WHERE SozlesmeID = 99");
+  ayni("sözleşme geri geldi, numarası değişti");
+
+  // Without a piece of the summary the grid reads the lines; opening the file
+  // in the window program lays the summary anew.
+  Calistir("DROP TRIGGER MusteriCari_DetaySil");
+  EXPECT_FALSE(db::CariOzetVar(Genel::Baglanti));
+  Calistir("DELETE FROM SozlesmeDetay WHERE SozlesmeID = 6");
+  EXPECT_EQ(DuzIleFark(), QString());
+  db::RaporlariHazirla(Genel::Baglanti);
+  EXPECT_TRUE(db::CariOzetVar(Genel::Baglanti));
+  EXPECT_EQ(DuzIleFark(), QString());
 }
 
 // Where adding up per contract could part from the plain statement: several
