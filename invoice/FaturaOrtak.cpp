@@ -199,6 +199,35 @@ void FaturaEkrani::NoGoster(const std::optional<qint64>& no) {
   txtFaturaNo->setText(QString::number(*no));
 }
 
+void FaturaEkrani::Hesapla() {
+  if (!yuklendi_ || hesapliyor_) return;
+  hesapliyor_ = true;
+  const fatura::Sonuc s =
+      fatura::Hesapla({txtTutar->text(), txtBMOran->text(), txtMasraf->text(), txtPul->text()});
+  if (s.MasrafDoldur) txtMasraf->setText(QString::fromUtf16(fatura::kBosMasraf));
+  txtBMVergisi->setText(s.BMVergisi);
+  txtToplamOdeme->setText(s.ToplamOdeme);
+  txtGenelToplam->setText(s.GenelToplam);
+  lblYazi->setText(s.Yazi);
+  hesapliyor_ = false;
+}
+
+fatura::Satir FaturaEkrani::Satiri(bool ekFatura) const {
+  fatura::Satir s;
+  s.FaturaSeri = txtFaturaSeri->text();
+  s.FaturaNo = txtFaturaNo->text();
+  s.MusteriNo = txtMusteriNo->text();
+  s.Tutar = txtTutar->text();
+  s.BMOran = txtBMOran->text();
+  s.BMVergisi = txtBMVergisi->text();
+  s.Masraf = txtMasraf->text();
+  s.ToplamOdeme = txtToplamOdeme->text();
+  s.Pul = txtPul->text();
+  s.GenelToplam = txtGenelToplam->text();
+  s.Yaziyla = fatura::YaziylaMetni(lblYazi->text(), ekFatura);
+  return s;
+}
+
 bool FaturaEkrani::NoGirildi() {
   if (!txtFaturaNo->text().isEmpty()) return true;
   mesaj::Kritik(QString::fromUtf16(fatura::kNoGir), QStringLiteral("Hata"));

@@ -17,7 +17,9 @@
 #include <variant>
 
 #include "core/Ekran.h"
+#include "core/Koruma.h"
 #include "invoice/FaturaBaski.h"
+#include "invoice/FaturaHesap.h"
 
 namespace invoice {
 
@@ -53,6 +55,10 @@ class FaturaEkrani : public QDialog {
 
   // An emptied series box takes the office's invoice series again.
   bool txtFaturaSeri_Validate();
+  // The tax, the customer's payment, the grand total and the words from the
+  // amount, the percent, the fee and the stamp duty; runs on every change once
+  // the opening is done.
+  void Hesapla();
 
  protected:
   // `tutarKilitli`: the amount comes from elsewhere and can't be typed.
@@ -74,9 +80,23 @@ class FaturaEkrani : public QDialog {
   void NoGoster(const std::optional<qint64>& no);
   // The save's first check: a number must be there.
   bool NoGirildi();
+  // The row a save writes, from the boxes both screens have; `ekFatura`
+  // chooses the words' ending. The screen adds its own columns.
+  fatura::Satir Satiri(bool ekFatura) const;
+  // A button runs the screen's command `f`, guarded against engine failures.
+  template <class E, class R>
+  void Bagla(QPushButton* d, R (E::*f)()) {
+    connect(d, &QPushButton::clicked, this,
+            [this, f] { ekran::Korumali([this, f] { (static_cast<E*>(this)->*f)(); }); });
+  }
+
+  bool yuklendi_ = false;  // Hesapla runs on changes once the opening is done
   // Prints the invoice row in the given layout after the printer question; a
   // row that can't be printed is told instead.
   void SatiriYazdir(const std::variant<baski::Kayit, baski::Red>& satir, fatura::Bicim bicim);
+
+ private:
+  bool hesapliyor_ = false;  // Hesapla writing its own boxes
 };
 
 // The screen of type T the clerk is in: the one holding the focus, else the

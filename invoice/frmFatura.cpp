@@ -57,15 +57,11 @@ void frmFatura::Kur() {
   ekran::AyrilirkenKontrol(txtFaturaSeri, [this] { return txtFaturaSeri_Validate(); });
   for (QLineEdit* k : {txtBMOran, txtMasraf, txtPul})
     connect(k, &QLineEdit::textChanged, this, [this] { Hesapla(); });
-  const auto bagla = [this](QPushButton* d, auto f) {
-    connect(d, &QPushButton::clicked, this,
-            [this, f] { ekran::Korumali([this, f] { (this->*f)(); }); });
-  };
-  bagla(cmdFatNo, &frmFatura::cmdFatNo_Click);
-  bagla(cmdSave, &frmFatura::cmdSave_Click);
-  bagla(cmdsil, &frmFatura::cmdsil_Click);
-  bagla(cmdYazdir, &frmFatura::cmdYazdir_Click);
-  bagla(cmdExit, &frmFatura::cmdExit_Click);
+  Bagla(cmdFatNo, &frmFatura::cmdFatNo_Click);
+  Bagla(cmdSave, &frmFatura::cmdSave_Click);
+  Bagla(cmdsil, &frmFatura::cmdsil_Click);
+  Bagla(cmdYazdir, &frmFatura::cmdYazdir_Click);
+  Bagla(cmdExit, &frmFatura::cmdExit_Click);
 }
 
 // --- opening
@@ -112,19 +108,6 @@ void frmFatura::Form_Load() {
 
 // --- figures
 
-void frmFatura::Hesapla() {
-  if (!yuklendi_ || hesapliyor_) return;
-  hesapliyor_ = true;
-  const fatura::Sonuc s =
-      fatura::Hesapla({txtTutar->text(), txtBMOran->text(), txtMasraf->text(), txtPul->text()});
-  if (s.MasrafDoldur) txtMasraf->setText(QString::fromUtf16(fatura::kBosMasraf));
-  txtBMVergisi->setText(s.BMVergisi);
-  txtToplamOdeme->setText(s.ToplamOdeme);
-  txtGenelToplam->setText(s.GenelToplam);
-  lblYazi->setText(s.Yazi);
-  hesapliyor_ = false;
-}
-
 void frmFatura::FatNoBul() {
   NoGoster(fatura::SonrakiNo(Genel::Baglanti, Genel::FaturaSeri, QDate::currentDate()));
 }
@@ -133,21 +116,10 @@ void frmFatura::FatNoBul() {
 
 bool frmFatura::cmdSave_Click() {
   if (!NoGirildi()) return false;
-  fatura::Satir s;
-  s.FaturaSeri = txtFaturaSeri->text();
-  s.FaturaNo = txtFaturaNo->text();
+  fatura::Satir s = Satiri(false);
   s.Tarih = txtTarih->text();
-  s.MusteriNo = txtMusteriNo->text();
   s.SozlesmeSeri = txtSozlesmeSeri->text();
   s.SozlesmeNo = txtSozlesmeNo->text();
-  s.Tutar = txtTutar->text();
-  s.BMOran = txtBMOran->text();
-  s.BMVergisi = txtBMVergisi->text();
-  s.Masraf = txtMasraf->text();
-  s.ToplamOdeme = txtToplamOdeme->text();
-  s.Pul = txtPul->text();
-  s.GenelToplam = txtGenelToplam->text();
-  s.Yaziyla = fatura::YaziylaMetni(lblYazi->text(), false);
   s.SozlesmeID = SozlesmeID;
   QString neden;
   try {

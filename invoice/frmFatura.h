@@ -30,7 +30,6 @@ class frmFatura : public invoice::FaturaEkrani {
 
   // The opening steps 1 to 8.
   void Form_Load();
-  void Hesapla();
   void FatNoBul();
   // True when the row was written.
   bool cmdSave_Click();
@@ -45,8 +44,6 @@ class frmFatura : public invoice::FaturaEkrani {
  private:
   void Kur();
   frmSozles *sozlesme_;
-  bool yuklendi_ = false;    // Hesapla runs on changes once the opening is done
-  bool hesapliyor_ = false;  // Hesapla writing its own boxes
 };
 
 namespace invoice {

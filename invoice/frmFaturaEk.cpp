@@ -62,14 +62,10 @@ void frmFaturaEk::Kur() {
   ekran::AyrilirkenKontrol(txtFaturaSeri, [this] { return txtFaturaSeri_Validate(); });
   for (QLineEdit* k : {txtBMOran, txtMasraf})
     connect(k, &QLineEdit::textChanged, this, [this] { Hesapla(); });
-  const auto bagla = [this](QPushButton* d, auto f) {
-    connect(d, &QPushButton::clicked, this,
-            [this, f] { ekran::Korumali([this, f] { (this->*f)(); }); });
-  };
-  bagla(cmdFatNo, &frmFaturaEk::cmdFatNo_Click);
-  bagla(cmdSave, &frmFaturaEk::cmdSave_Click);
-  bagla(cmdYazdir, &frmFaturaEk::cmdYazdir_Click);
-  bagla(cmdExit, &frmFaturaEk::cmdExit_Click);
+  Bagla(cmdFatNo, &frmFaturaEk::cmdFatNo_Click);
+  Bagla(cmdSave, &frmFaturaEk::cmdSave_Click);
+  Bagla(cmdYazdir, &frmFaturaEk::cmdYazdir_Click);
+  Bagla(cmdExit, &frmFaturaEk::cmdExit_Click);
 }
 
 void frmFaturaEk::Form_Load() {
@@ -86,37 +82,13 @@ void frmFaturaEk::Form_Load() {
   yuklendi_ = true;
 }
 
-void frmFaturaEk::Hesapla() {
-  if (!yuklendi_ || hesapliyor_) return;
-  hesapliyor_ = true;
-  const fatura::Sonuc s =
-      fatura::Hesapla({txtTutar->text(), txtBMOran->text(), txtMasraf->text(), txtPul->text()});
-  if (s.MasrafDoldur) txtMasraf->setText(QString::fromUtf16(fatura::kBosMasraf));
-  txtBMVergisi->setText(s.BMVergisi);
-  txtToplamOdeme->setText(s.ToplamOdeme);
-  txtGenelToplam->setText(s.GenelToplam);
-  lblYazi->setText(s.Yazi);
-  hesapliyor_ = false;
-}
-
 void frmFaturaEk::FatNoBul() { NoGoster(fatura::EkSonrakiNo(Genel::Baglanti, Genel::FaturaSeri)); }
 
 bool frmFaturaEk::cmdSave_Click() {
   if (!NoGirildi()) return false;
-  fatura::Satir s;
-  s.FaturaSeri = txtFaturaSeri->text();
-  s.FaturaNo = txtFaturaNo->text();
+  fatura::Satir s = Satiri(true);
   s.Tarih = txtTarih->text();
-  s.MusteriNo = txtMusteriNo->text();
   s.Aciklama = txtAciklama->text();
-  s.Tutar = txtTutar->text();
-  s.BMOran = txtBMOran->text();
-  s.BMVergisi = txtBMVergisi->text();
-  s.Masraf = txtMasraf->text();
-  s.ToplamOdeme = txtToplamOdeme->text();
-  s.Pul = txtPul->text();
-  s.GenelToplam = txtGenelToplam->text();
-  s.Yaziyla = fatura::YaziylaMetni(lblYazi->text(), true);
   // Any failure but the refusal of a contract's number has one message,
   // without the engine's text.
   const QString baslik = QString::fromUtf16(fatura::kCiftNumara);

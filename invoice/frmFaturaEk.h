@@ -19,7 +19,6 @@ class frmFaturaEk : public invoice::FaturaEkrani {
   QLineEdit *txtTarih, *txtAciklama;
 
   void Form_Load();
-  void Hesapla();
   void FatNoBul();
   bool cmdSave_Click();
   void cmdYazdir_Click();
@@ -32,8 +31,6 @@ class frmFaturaEk : public invoice::FaturaEkrani {
  private:
   void Kur();
   frmMusteri *musteri_;
-  bool yuklendi_ = false;
-  bool hesapliyor_ = false;
 };
 
 namespace invoice {
