@@ -382,18 +382,7 @@ QVariantList DetayIzgaraDegerleri(const QString& txtTarih, qint64 ilaveGun, qint
 
 void DetayIzgarasiKur(ekran::Izgara* izgara) {
   ekran::IzgaraModeli* m = izgara->Model();
-  m->Baslik(QStringLiteral("GirisNo"), QStringLiteral("GirisNo"));
-  m->Baslik(QStringLiteral("SozlesmeNo"), QStringLiteral("SozlesmeNo"));
-  m->Baslik(QStringLiteral("Tip"), QStringLiteral("Tip"));
-  m->Baslik(QStringLiteral("Kesideci"), QStringLiteral("Keşideci"));
-  m->Baslik(QStringLiteral("Banka"), QStringLiteral("Banka"));
-  m->Baslik(QStringLiteral("Sube"), QStringLiteral("Şube"));
-  m->Baslik(QStringLiteral("HesapNo"), QStringLiteral("Hesap No"));
-  m->Baslik(QStringLiteral("CekNo"), QStringLiteral("Çek No"));
-  m->Baslik(QStringLiteral("Vadesi"), QStringLiteral("Vadesi"));
-  m->TarihBicimi(QStringLiteral("Vadesi"));
-  m->Baslik(QStringLiteral("Gunu"), QStringLiteral("Gün"));
-  m->Ayar(QStringLiteral("Gunu")).hiza = Qt::AlignRight | Qt::AlignVCenter;
+  m->BelgeSutunlari(QStringLiteral("Gunu"));
   m->Baslik(QStringLiteral("Meblag"), QStringLiteral("Meblağ"));
   ekran::IzgaraModeli::Sutun& meblag = m->Ayar(QStringLiteral("Meblag"));
   meblag.hiza = Qt::AlignRight | Qt::AlignVCenter;

@@ -24,6 +24,26 @@ void IzgaraModeli::SayiBicimi(const QString& alan, int basamak, bool gruplu) {
   s.hiza = Qt::AlignRight | Qt::AlignVCenter;
 }
 
+void IzgaraModeli::Basliklar(std::initializer_list<std::pair<const char*, const char*>> liste) {
+  for (const auto& [alan, baslik] : liste)
+    Baslik(QString::fromLatin1(alan), QString::fromUtf8(baslik));
+}
+
+void IzgaraModeli::BelgeSutunlari(const QString& gun) {
+  Basliklar({{"GirisNo", "GirisNo"},
+             {"SozlesmeNo", "SozlesmeNo"},
+             {"Tip", "Tip"},
+             {"Kesideci", "Keşideci"},
+             {"Banka", "Banka"},
+             {"Sube", "Şube"},
+             {"HesapNo", "Hesap No"},
+             {"CekNo", "Çek No"},
+             {"Vadesi", "Vadesi"}});
+  TarihBicimi(QStringLiteral("Vadesi"));
+  Baslik(gun, QStringLiteral("Gün"));
+  Ayar(gun).hiza = Qt::AlignRight | Qt::AlignVCenter;
+}
+
 void IzgaraModeli::TarihBicimi(const QString& alan) { Ayar(alan).bicim = Bicim::Tarih; }
 
 void IzgaraModeli::Uygula(QTableView* v) const {

@@ -7,6 +7,8 @@
 #include <QHash>
 #include <QTableView>
 #include <functional>
+#include <initializer_list>
+#include <utility>
 
 #include "db/Kayitlar.h"
 
@@ -21,8 +23,8 @@ class IzgaraModeli : public QAbstractTableModel {
     QString baslik;
     bool gizli = false;
     Bicim bicim = Bicim::Duz;
-    int basamak = 2;        // decimals of a number
-    bool gruplu = true;     // thousands groups of a number
+    int basamak = 2;     // decimals of a number
+    bool gruplu = true;  // thousands groups of a number
     Qt::Alignment hiza = Qt::AlignLeft | Qt::AlignVCenter;
     std::function<QString(const QVariant&)> yaz;  // own text, if any
   };
@@ -36,6 +38,12 @@ class IzgaraModeli : public QAbstractTableModel {
   Sutun& Ayar(const QString& alan);
   void Baslik(const QString& alan, const QString& baslik) { Ayar(alan).baslik = baslik; }
   void Gizle(const QString& alan, bool gizli = true) { Ayar(alan).gizli = gizli; }
+  // Captions of several columns: field, caption.
+  void Basliklar(std::initializer_list<std::pair<const char*, const char*>> liste);
+  // The columns of a paper, as the contract's lines and the statement show
+  // them: entry, contract, type, drawer, bank, branch, account, cheque number,
+  // maturity as a date and its days (field `gun`) on the right.
+  void BelgeSutunlari(const QString& gun);
   void SayiBicimi(const QString& alan, int basamak, bool gruplu = true);
   void TarihBicimi(const QString& alan);
   // Applies hidden columns to a view.

@@ -39,16 +39,16 @@ frmKesideciBilgi::frmKesideciBilgi() {
   dGridDetay->setObjectName(QStringLiteral("dGridDetay"));
   {
     ekran::IzgaraModeli* m = dGridDetay->Model();
-    m->Baslik(QStringLiteral("Bulunacak"), QStringLiteral("Müşteri"));
-    m->Baslik(QStringLiteral("SozlesmeNo"), QStringLiteral("Söz.No"));
-    m->Baslik(QStringLiteral("Kesideci"), QStringLiteral("Keşideci"));
-    m->Baslik(QStringLiteral("Sube"), QStringLiteral("Şube"));
-    m->Baslik(QStringLiteral("HesapNo"), QStringLiteral("Hesap No"));
-    m->Baslik(QStringLiteral("CekNo"), QStringLiteral("Çek No"));
+    m->Basliklar({{"Bulunacak", "Müşteri"},
+                  {"SozlesmeNo", "Söz.No"},
+                  {"Kesideci", "Keşideci"},
+                  {"Sube", "Şube"},
+                  {"HesapNo", "Hesap No"},
+                  {"CekNo", "Çek No"},
+                  {"Meblag", "Meblağ"},
+                  {"Doviz", "Döviz"}});
     m->TarihBicimi(QStringLiteral("Vadesi"));
-    m->Baslik(QStringLiteral("Meblag"), QStringLiteral("Meblağ"));
     m->SayiBicimi(QStringLiteral("Meblag"), 2);
-    m->Baslik(QStringLiteral("Doviz"), QStringLiteral("Döviz"));
     for (const char* gizli : {"Gun", "Karsilik", "Odenmesi", "SozlesmeSeri", "MeblagTL"})
       m->Gizle(QString::fromLatin1(gizli));
   }

@@ -45,21 +45,9 @@ frmMusteriBilgi::frmMusteriBilgi() : musteriler_(new master::MusteriListesi(this
   dGridDetay->setObjectName(QStringLiteral("dGridDetay"));
   {
     ekran::IzgaraModeli* m = dGridDetay->Model();
-    m->Baslik(QStringLiteral("GirisNo"), QStringLiteral("GirisNo"));
-    m->Baslik(QStringLiteral("SozlesmeNo"), QStringLiteral("SozlesmeNo"));
-    m->Baslik(QStringLiteral("Tip"), QStringLiteral("Tip"));
-    m->Baslik(QStringLiteral("Kesideci"), QStringLiteral("Keşideci"));
-    m->Baslik(QStringLiteral("Banka"), QStringLiteral("Banka"));
-    m->Baslik(QStringLiteral("Sube"), QStringLiteral("Şube"));
-    m->Baslik(QStringLiteral("HesapNo"), QStringLiteral("Hesap No"));
-    m->Baslik(QStringLiteral("CekNo"), QStringLiteral("Çek No"));
-    m->Baslik(QStringLiteral("Vadesi"), QStringLiteral("Vadesi"));
-    m->TarihBicimi(QStringLiteral("Vadesi"));
-    m->Baslik(QStringLiteral("Gun"), QStringLiteral("Gün"));
-    m->Ayar(QStringLiteral("Gun")).hiza = Qt::AlignRight | Qt::AlignVCenter;
-    m->Baslik(QStringLiteral("Meblag"), QStringLiteral("Meblağ"));
+    m->BelgeSutunlari(QStringLiteral("Gun"));
+    m->Basliklar({{"Meblag", "Meblağ"}, {"Doviz", "Döviz"}});
     m->SayiBicimi(QStringLiteral("Meblag"), 2);
-    m->Baslik(QStringLiteral("Doviz"), QStringLiteral("Döviz"));
   }
   txtAdet = ekran::Kutu(QStringLiteral("txtAdet"), 0, false);
   txtToplam = ekran::Kutu(QStringLiteral("txtToplam"), 0, false);

@@ -58,20 +58,20 @@ frmTahsilat::frmTahsilat() {
   grdCek->setObjectName(QStringLiteral("grdCek"));
   {
     ekran::IzgaraModeli* m = grdCek->Model();
-    m->Baslik(QStringLiteral("GirisNo"), QStringLiteral("GirisNo"));
-    m->Baslik(QStringLiteral("SozlesmeNo"), QStringLiteral("Sözleşme No"));
-    m->Baslik(QStringLiteral("Tip"), QStringLiteral("Tip"));
-    m->Baslik(QStringLiteral("Kesideci"), QStringLiteral("Keşideci"));
-    m->Baslik(QStringLiteral("Banka"), QStringLiteral("Banka"));
-    m->Baslik(QStringLiteral("Sube"), QStringLiteral("Şube"));
-    m->Baslik(QStringLiteral("HesapNo"), QStringLiteral("Hesap"));
-    m->Baslik(QStringLiteral("CekNo"), QStringLiteral("Çek No"));
-    m->Baslik(QStringLiteral("Vadesi"), QStringLiteral("Vadesi"));
+    m->Basliklar({{"GirisNo", "GirisNo"},
+                  {"SozlesmeNo", "Sözleşme No"},
+                  {"Tip", "Tip"},
+                  {"Kesideci", "Keşideci"},
+                  {"Banka", "Banka"},
+                  {"Sube", "Şube"},
+                  {"HesapNo", "Hesap"},
+                  {"CekNo", "Çek No"},
+                  {"Vadesi", "Vadesi"},
+                  {"Meblag", "Meblağ"},
+                  {"Doviz", "Döviz"},
+                  {"Odenmesi", "Ödeme "}});
     m->TarihBicimi(QStringLiteral("Vadesi"));
-    m->Baslik(QStringLiteral("Meblag"), QStringLiteral("Meblağ"));
     m->SayiBicimi(QStringLiteral("Meblag"), 2);
-    m->Baslik(QStringLiteral("Doviz"), QStringLiteral("Döviz"));
-    m->Baslik(QStringLiteral("Odenmesi"), QStringLiteral("Ödeme "));
     m->TarihBicimi(QStringLiteral("Odenmesi"));
   }
   lblDuyuru = Gizli("lblDuyuru");
