@@ -21,8 +21,7 @@ class FaturaEkran : public SozlesEkran {
     Genel::SahipAdi.clear();
     Genel::PrinterFatura = ayarDizini() + QStringLiteral("/fatura.prn");
     Genel::PrinterSozlesme = ayarDizini() + QStringLiteral("/sozlesme.prn");
-    // Contract 1, AB 7 of 04.03.2005: one paper of 1.000.000,00; the interest
-    // is typed (Hesapla off), 40.000,00.
+    // Contract 1, AB 7 of 04.03.2005: one paper of 1.000.000,00; interest typed.
     Sozlesme(1, 7, 12, "2005-03-04", 5, 3, 0);
     Satir(1, "2005-04-04", 1000000);
     Calistir("UPDATE Sozlesme SET Tutar = 1000000, FaizTutar = 40000 WHERE SozlesmeID = 1");
@@ -50,6 +49,11 @@ class FaturaEkran : public SozlesEkran {
                      f->txtToplamOdeme, f->txtSozlesmeTutar, f->txtGenelToplam, f->lblYazi});
   }
 
+  static void VergiNo() {
+    Calistir(
+        "UPDATE Musteri SET VergiDairesi = 'Kavaklıdere', VergiKimlikNo = '1234567890' "
+        "WHERE MusteriNo = 12");
+  }
   static QString Faturalar() {
     return Tablo(
         "SELECT FaturaSeri, FaturaNo, SozlesmeID, Tutar, BMVergisiYuzde, TahsilMasrafi, "
@@ -67,6 +71,14 @@ class FaturaEkran : public SozlesEkran {
       if (w || --*kalan == 0) t->deleteLater(), t->stop();
     });
     t->start(10);
+  }
+
+  // The dialogue with number `no` typed and saved.
+  frmFatura* Kayitli(const QString& no) {
+    frmFatura* f = FaturaAc();
+    Yaz(f->txtFaturaNo, no);
+    EXPECT_TRUE(Bas(f->cmdSave));
+    return f;
   }
 
   static QByteArray Dosya(const QString& yol) {
