@@ -159,8 +159,11 @@ TEST_F(FaturaEk, UzunVeTuhafMetinlerOlduguGibi) {
 }
 
 TEST_F(FaturaEk, MusteriEkranindanAcilir) {
-  invoice::FaturaEkEkraniKaydet();
+  // The menu entry stays greyed until the screen is registered.
   auto* m = MusteriAc();
+  m->Form_Activate();
+  EXPECT_FALSE(m->mnuFaturaEk->isEnabled());
+  invoice::FaturaEkEkraniKaydet();
   m->Form_Activate();
   ASSERT_TRUE(m->mnuFaturaEk->isEnabled());
   QString gorulen;

@@ -1,7 +1,12 @@
 // The contract invoice as a clerk uses it: opened from the contract screen,
-// numbered, saved, reopened, deleted and printed.
+// numbered, saved, reopened, deleted, printed and previewed from the settings.
 
+#include <QDialog>
+#include <QLabel>
+
+#include "core/frmIni.h"
 #include "invoice/FaturaBaski.h"
+#include "invoice/FaturaOnizleme.h"
 #include "tests/invoice/FaturaEkran.h"
 
 namespace {
@@ -231,6 +236,50 @@ TEST_F(Fatura, SozlesmeEkranindanAcilir) {
   ASSERT_TRUE(Bas(s->cmdFatura));
   EXPECT_EQ(gorulen, "7|49.500,00");
   EXPECT_EQ(Faturalar(), "");
+}
+
+// The settings screen's preview: the latest invoice with the values typed on
+// the screen, saved or not.
+TEST_F(Fatura, OnizlemeEkrandakiDegerlerle) {
+  invoice::FaturaOnizlemeKaydet();
+  frmIni ini;
+  ini.show();
+  QApplication::setActiveWindow(&ini);
+  ini.Form_Load();
+  ini.Form_Activate();
+  test::Isle();
+  ASSERT_TRUE(Bas(ini.cmdOnizleme));
+  EXPECT_EQ(Kutular(), "Bilgi Önizleme: Önizlenecek fatura yok. Önce bir fatura kaydediniz.");
+
+  Calistir(
+      "INSERT INTO Fatura(FaturaSeri, FaturaNo, Tarih, MusteriNo, SozlesmeID, Tutar, "
+      "ToplamTutar) VALUES ('A', 1, '2005-03-04', 12, 1, 40000, 49500)");
+  // The screen's own defaults (15 blank lines above) and a change not saved.
+  Yaz(ini.txtTutarBosluk, "70");
+  ini.chkPulBedeli->setChecked(false);
+  const fatura::YaziAyari a = invoice::EkrandakiAyar(&ini);
+  EXPECT_EQ(
+      QString("%1|%2|%3|%4").arg(a.BasBosluk).arg(a.TutarBas).arg(a.PulBedeli).arg(Genel::TutarBas),
+      "15|70|0|58");
+  ASSERT_TRUE(Bas(ini.cmdOnizleme));
+  EXPECT_EQ(Kutular(), "");
+  auto* d = ini.findChild<QDialog*>("frmOnizleme");
+  ASSERT_NE(d, nullptr);
+  EXPECT_EQ(d->windowTitle(), "Önizleme - Fatura A 1");
+  EXPECT_TRUE(d->findChild<QLabel*>("lblHata")->isHidden());
+  EXPECT_EQ(d->findChild<QLabel*>("lblBilgi")->text().left(9), "70 satır,");
+  d->close();
+  test::Isle();
+  QApplication::setActiveWindow(&ini);
+
+  // An offset that breaks the stream shows the failure under the pages.
+  Yaz(ini.txtTutarBosluk, "20");
+  ASSERT_TRUE(Bas(ini.cmdOnizleme));
+  d = ini.findChild<QDialog*>("frmOnizleme");
+  ASSERT_NE(d, nullptr);
+  EXPECT_EQ(d->findChild<QLabel*>("lblHata")->text(),
+            "Bir Hata Oluştu\n32. satır: yazı 20. sütunu geçiyor (40 karakter).");
+  d->close();
 }
 
 }  // namespace

@@ -7,7 +7,6 @@
 #include <QRegularExpression>
 #include <memory>
 
-#include "core/Ekran.h"
 #include "master/frmMusteri.h"
 #include "tests/master/Ortak.h"
 #include "tests/support/Klavye.h"
@@ -425,26 +424,6 @@ TEST_F(MusteriTest, EskiSatirlarVeListeKonumlari) {
   f->cmdFirst_Click();
   f->cmdPrev_Click();
   EXPECT_EQ(f->lblDurum->text(), u"Kayıt: 1/2"_s);
-}
-
-TEST_F(MusteriTest, EkFaturaKayitliOluncaAcilir) {
-  Musteri(1, "UYSAL", "MERVE");
-  auto f = Ac();
-  f->Form_Activate();
-  EXPECT_FALSE(f->mnuFaturaEk->isEnabled());
-  int acilis = 0;
-  ekran::Kaydet(u"frmFaturaEk"_s, [&acilis]() -> QWidget* {
-    ++acilis;
-    return nullptr;
-  });
-  f->Form_Activate();
-  EXPECT_TRUE(f->mnuFaturaEk->isEnabled());
-  f->mnuFaturaEk->trigger();
-  EXPECT_EQ(acilis, 1);
-  // No customer on show: nothing opens.
-  f->txtMusteriNo->clear();
-  f->mnuFaturaEk_Click();
-  EXPECT_EQ(acilis, 1);
 }
 
 }  // namespace
