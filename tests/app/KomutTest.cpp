@@ -19,7 +19,6 @@ class Komut : public test::FaturaEkran {
     FaturaEkran::SetUp();
     VergiNo();
   }
-
   struct Sonuc {
     int kod = -1;
     QByteArray cikti, hata;
@@ -145,11 +144,9 @@ TEST_F(Komut, VeriTabaniKomutlari) {
     EXPECT_EQ(s.kod, kod) << s.hata.toStdString();
     return QString::fromUtf8(kod == 0 ? s.cikti : s.hata);
   };
-
   EXPECT_EQ(calistir({"yedekle"}, 0), "Yedek alındı: " + yedek + "\n");
   ASSERT_TRUE(QFile::copy(yedek, eski));
   EXPECT_EQ(calistir({"bakim"}, 0), "Veri Tabanı Bakımı Yapıldı\nEski dosya: " + yedek + "\n");
-
   // Restore of a file that is no database: refused, nothing changed.
   QFile metin(Yol("metin.db"));
   ASSERT_TRUE(metin.open(QIODevice::WriteOnly) && metin.write(QByteArray(2000, 'x')) == 2000);
@@ -162,7 +159,6 @@ TEST_F(Komut, VeriTabaniKomutlari) {
       "Geri yükleme yapılamadı; veri tabanı değişmedi.\nDosya bir veri tabanı değil"))
       << red.hata.toStdString();
   EXPECT_EQ(Dosya(db), once);
-
   // A good one, after the customers are gone.
   Genel::Baglanti.Ac(db);
   Calistir("DELETE FROM Musteri");
@@ -171,7 +167,6 @@ TEST_F(Komut, VeriTabaniKomutlari) {
             "Şimdiki veri tabanının yedeği: " + yedek + "\nGeri yüklendi: " + eski + "\n");
   EXPECT_EQ(musteriler(db), adet);
   EXPECT_EQ(musteriler(yedek), 0);
-
   // Maintenance that can't put its new file down: the message, exit 1.
   ASSERT_TRUE(QDir().mkdir(Yol("velmora_new.db")));
   EXPECT_TRUE(
@@ -179,7 +174,6 @@ TEST_F(Komut, VeriTabaniKomutlari) {
           .startsWith(
               u"Bir Problem Oldu, Program Kullanılıyor Olabilir, Çıkıp Tekrar Deneyin\n"_s));
   EXPECT_EQ(musteriler(db), adet);
-
   EXPECT_EQ(Velmora({"geriyukle"}).kod, 2);
   EXPECT_EQ(Velmora({"yedekle", "fazla"}).kod, 2);
   const Sonuc bos = VeriTabanisiz({"yedekle"});

@@ -30,7 +30,6 @@ class FaturaEkran : public SozlesEkran {
     fatura_.reset();
     SozlesEkran::TearDown();
   }
-
   // The contract screen on contract 1 and the invoice dialogue over it.
   frmFatura* FaturaAc() {
     if (!ekran_) Ac(false);
@@ -42,13 +41,11 @@ class FaturaEkran : public SozlesEkran {
     return fatura_.get();
   }
   std::unique_ptr<frmFatura> fatura_;
-
   // The figures on show, in the order of the screen.
   static QString Rakamlar(const frmFatura* f) {
     return Metinler({f->txtTutar, f->txtBMOran, f->txtBMVergisi, f->txtMasraf, f->txtPul,
                      f->txtToplamOdeme, f->txtSozlesmeTutar, f->txtGenelToplam, f->lblYazi});
   }
-
   static void VergiNo() {
     Calistir(
         "UPDATE Musteri SET VergiDairesi = 'Kavaklıdere', VergiKimlikNo = '1234567890' "
@@ -59,7 +56,6 @@ class FaturaEkran : public SozlesEkran {
         "SELECT FaturaSeri, FaturaNo, SozlesmeID, Tutar, BMVergisiYuzde, TahsilMasrafi, "
         "PulBedeli, ToplamMasraf, ToplamTutar FROM Fatura ORDER BY FaturaSeri, FaturaNo");
   }
-
   // Runs `islem` on the blocking dialogue once one is open (its exec runs
   // the event loop that gets here); gives up after two seconds.
   static void Modalda(std::function<void(QWidget*)> islem) {
@@ -72,7 +68,6 @@ class FaturaEkran : public SozlesEkran {
     });
     t->start(10);
   }
-
   // The dialogue with number `no` typed and saved.
   frmFatura* Kayitli(const QString& no) {
     frmFatura* f = FaturaAc();
@@ -80,7 +75,6 @@ class FaturaEkran : public SozlesEkran {
     EXPECT_TRUE(Bas(f->cmdSave));
     return f;
   }
-
   static QByteArray Dosya(const QString& yol) {
     QFile f(yol);
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();

@@ -25,7 +25,6 @@ TEST_F(Fatura, IsledigiOrnek) {
             "KIRKDOKUZBİNBEŞYÜZ Yeni Lira ");
   EXPECT_FALSE(f->FaturaVar || f->cmdYazdir->isEnabled());
   EXPECT_TRUE(f->txtPul->isVisible());
-
   // No invoice yet: the clerk types the first number of a series.
   ASSERT_TRUE(Bas(f->cmdFatNo));
   EXPECT_EQ(Kutular(), "Kritik Velmora: Hiç Fatura Kesmemissiniz");
@@ -44,7 +43,6 @@ TEST_F(Fatura, IsledigiOrnek) {
   f->txtFaturaNo->clear();
   ASSERT_TRUE(Bas(f->cmdFatNo));
   EXPECT_EQ(f->txtFaturaNo->text(), "2");
-
   // The contract is locked while its invoice exists.
   f->close();
   QApplication::setActiveWindow(ekran_.get());
@@ -67,7 +65,6 @@ TEST_F(Fatura, KayitliFaturaKendiDegerleriyleAcilir) {
   ASSERT_TRUE(Bas(f->cmdSave));
   EXPECT_EQ(Faturalar(), "A|5|1|40000|7.5|125|1000|4125|44125");
   f->close();
-
   // Reopened: its own percent, fee and stamp duty, and the interest on the
   // contract screen (changed there since, unsaved).
   ekran_->txtFaizTutar->setText("30.000,00");
@@ -179,7 +176,6 @@ TEST_F(Fatura, YazdirDosyaya) {
   ASSERT_TRUE(Bas(f->cmdYazdir));
   EXPECT_EQ(Kutular(), "Ünlem UYARI: Vergi Kimlik No Boş. Lütfen Kontrol Ediniz!");
   EXPECT_FALSE(QFile::exists(Genel::PrinterFatura));
-
   VergiNo();
   // A change on screen is saved before it is printed; Cancel prints nothing.
   Yaz(f->txtMasraf, "10");
@@ -188,7 +184,6 @@ TEST_F(Fatura, YazdirDosyaya) {
   EXPECT_EQ(Kutular(), soru);
   EXPECT_EQ(Faturalar(), "A|1|1|40000|5|10|7500|9510|49510");
   EXPECT_FALSE(QFile::exists(Genel::PrinterFatura));
-
   Cevap(mesaj::Dugme::Tamam);
   ASSERT_TRUE(Bas(f->cmdYazdir));
   EXPECT_EQ(Kutular(), soru);
@@ -202,7 +197,6 @@ TEST_F(Fatura, YazdirDosyaya) {
   EXPECT_EQ(satirlar.size(), 67);  // 66 lines and what follows the last LF
   EXPECT_TRUE(satirlar[27].endsWith("40.000,00\r")) << satirlar[27].toStdString();
   EXPECT_TRUE(satirlar[45].endsWith("49.510,00\r")) << satirlar[45].toStdString();
-
   // The fixed layout of the named office; a printer that isn't there.
   Genel::SahipAdi = "Sefa Dalkan";
   Genel::PrinterFatura = veriDizini() + "/yok/fatura.prn";
@@ -250,7 +244,6 @@ TEST_F(Fatura, OnizlemeEkrandakiDegerlerle) {
   test::Isle();
   ASSERT_TRUE(Bas(ini.cmdOnizleme));
   EXPECT_EQ(Kutular(), "Bilgi Önizleme: Önizlenecek fatura yok. Önce bir fatura kaydediniz.");
-
   Calistir(
       "INSERT INTO Fatura(FaturaSeri, FaturaNo, Tarih, MusteriNo, SozlesmeID, Tutar, "
       "ToplamTutar) VALUES ('A', 1, '2005-03-04', 12, 1, 40000, 49500)");
@@ -271,7 +264,6 @@ TEST_F(Fatura, OnizlemeEkrandakiDegerlerle) {
   d->close();
   test::Isle();
   QApplication::setActiveWindow(&ini);
-
   // An offset that breaks the stream shows the failure under the pages.
   Yaz(ini.txtTutarBosluk, "20");
   ASSERT_TRUE(Bas(ini.cmdOnizleme));

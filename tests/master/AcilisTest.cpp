@@ -30,7 +30,6 @@ class Acilis : public test::Ortam {
     ana_.reset();
     test::Ortam::TearDown();
   }
-
   // Ends the program that runs (if any) and starts it again on the folders.
   frmMain& Baslat() {
     ana_.reset();
@@ -54,7 +53,6 @@ class Acilis : public test::Ortam {
     test::Tikla(f->cmdUpdate);
     EXPECT_EQ(MesajMetinleri().value(0), "Bilgiler Kaydedildi.");
   }
-
   std::unique_ptr<frmMain> ana_;
 };
 

@@ -28,7 +28,6 @@ class BulTest : public test::Ortam {
                   QLatin1String(ek)) +
               QString::fromUtf8(degerler));
   }
-
   frmBul& Bul() {
     if (!bul_) {
       musteri_.Form_Load();
@@ -37,7 +36,6 @@ class BulTest : public test::Ortam {
     }
     return *bul_;
   }
-
   // The names found, in the order listed.
   QString Ara(const char* metin, bool adres = false, bool icinde = false) {
     frmBul& b = Bul();
@@ -51,7 +49,6 @@ class BulTest : public test::Ortam {
     b.rsBulunan.MoveFirst();
     return adlar.join(',');
   }
-
   // The captions of the columns on show.
   QString Basliklar() {
     QStringList l;
@@ -60,7 +57,6 @@ class BulTest : public test::Ortam {
         l << bul_->grdSonuc->model()->headerData(i, Qt::Horizontal).toString();
     return l.join(',');
   }
-
   frmMusteri musteri_;
   std::unique_ptr<frmBul> bul_;
 };

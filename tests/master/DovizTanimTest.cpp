@@ -133,7 +133,6 @@ TEST_F(DovizTanim, SatirSecilirKurGirilirKaydedilir) {
   EXPECT_FALSE(f->cmdSave->isVisible());
   // The grid shows the new values.
   EXPECT_EQ(f->DataGrid1->Model()->Metin(GridSatiri(f, "03.05.2005", "EUR"), 3), "1.234,50000");
-
   // An empty cross rate is stored as Null; the other day stays untouched.
   CiftTikla(f, "02.05.2005", "USD");
   test::Yaz(f->txtKur, "1.234,56789");

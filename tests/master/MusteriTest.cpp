@@ -24,7 +24,6 @@ class MusteriTest : public test::Ortam {
         "VALUES (?, ?, ?, ?, ?, ?)"_s,
         {no, s, a, b, hukuki, Genel::AramaAnahtari(s, a, b)});
   }
-
   static std::unique_ptr<frmMusteri> Ac() {
     auto f = std::make_unique<frmMusteri>();
     f->show();
@@ -34,12 +33,10 @@ class MusteriTest : public test::Ortam {
     test::Isle();
     return f;
   }
-
   static void Birak(QWidget* yeni) {
     yeni->setFocus();
     test::Isle();
   }
-
   // Into each box in turn: the focus goes there first.
   template <typename... Geri>
   static void Yaz(QLineEdit* kutu, const char* metin, Geri... geri) {
@@ -47,14 +44,12 @@ class MusteriTest : public test::Ortam {
     kutu->setText(QString::fromUtf8(metin));
     if constexpr (sizeof...(geri) > 0) Yaz(geri...);
   }
-
   // The named columns of a customer's row.
   static QString Satir(qint64 no, QString alanlar) {
     return test::Satirlar(
         u"SELECT %1 FROM Musteri WHERE MusteriNo = ?"_s.arg(alanlar.replace(' ', ", "_L1)), {no});
   }
   static qint64 Adet() { return Genel::Baglanti.Deger(u"SELECT count(*) FROM Musteri"_s).toInt(); }
-
   // The commands and lists the clerk can use, in the order they were made.
   static QString Etkin(const frmMusteri& f) {
     static const QRegularExpression ad(u"^(cmd.*|cmbNo|cmbAd)$"_s);
@@ -63,7 +58,6 @@ class MusteriTest : public test::Ortam {
       if (w->isEnabled() && ad.match(w->objectName()).hasMatch()) l << w->objectName();
     return l.join(' ');
   }
-
   // What the lists of the record show, and whether the proxy frame is there.
   static QString Secimler(const frmMusteri& f) {
     return u"%1|%2|%3|%4|%5|%6"_s.arg(
@@ -71,13 +65,11 @@ class MusteriTest : public test::Ortam {
         f.cmbHukukiYapi->currentText(), f.cmbVekilDurum->currentText(),
         f.Frame1->isHidden() ? u"-"_s : u"Vekil"_s);
   }
-
   // The record on show: number, names and position.
   static QString Kayit(const frmMusteri& f) {
     return u"%1|%2|%3|%4"_s.arg(f.txtMusteriNo->text(), f.txtSoyadi->text(), f.txtAdi->text(),
                                 f.lblDurum->text());
   }
-
   static QString Ogeler(const QComboBox* c) {
     QStringList l;
     for (int i = 0; i < c->count(); ++i) l << c->itemText(i);
@@ -99,7 +91,6 @@ TEST_F(MusteriTest, YeniMusteriHerAlaniylaKaydedilir) {
   EXPECT_TRUE(f->frmSearch->isHidden());
   EXPECT_EQ(Secimler(*f) + f->txtUlkeKod->text(), u"İstanbul|TC|||Yok|-TR"_s);
   EXPECT_EQ(Etkin(*f), u"cmdKodBelirle cmdSave cmdCancel cmdExit"_s);
-
   f->cmdKodBelirle_Click();
   Yaz(f->txtVergiKimlikNo, "1234567890", f->txtVergiDairesi, "KOZYATAĞI", f->txtSoyadi,
       "O'NEİL GIDA", f->txtAdi, "SAN. VE TİC.", f->txtBabaAdi, "LTD. ŞTİ.", f->txtAdres,
@@ -143,7 +134,6 @@ TEST_F(MusteriTest, ReddedilenKayitHicbirSeyKaybettirmez) {
   EXPECT_EQ(Adet(), 2);
   EXPECT_EQ(Kayit(*f), u"1|AK|ALİ VELİ|Kayıt: 1/2"_s);
   EXPECT_EQ(Etkin(*f), kNormal);
-
   // An edit into another customer's names: refused, shown as stored.
   f->KisiBul(2);
   f->cmdEdit_Click();
@@ -151,7 +141,6 @@ TEST_F(MusteriTest, ReddedilenKayitHicbirSeyKaybettirmez) {
   f->cmdSave_Click();
   EXPECT_EQ(Kutular(), kAyniIsim);
   EXPECT_EQ(Satir(2, "Soyadi") + ' ' + Kayit(*f), u"KARA 2|KARA|ALİ|Kayıt: 2/2"_s);
-
   // An edit whose insert fails keeps the stored row and what was typed.
   f->cmdEdit_Click();
   Yaz(f->txtSoyadi, "KARALI", f->txtAdres, "RED");
@@ -159,7 +148,6 @@ TEST_F(MusteriTest, ReddedilenKayitHicbirSeyKaybettirmez) {
   EXPECT_EQ(Kutular(), kEklenemedi);
   EXPECT_EQ(Satir(2, "Soyadi") + ' ' + Kayit(*f), u"KARA 2|KARALI|ALİ|Kayıt: 2/2"_s);
   EXPECT_TRUE(f->cmdSave->isEnabled());
-
   // A new customer under a number already taken is refused the same way.
   f->cmdCancel_Click();
   f->cmdNew_Click();
@@ -216,7 +204,6 @@ TEST_F(MusteriTest, SozlesmesiOlanSilinmezOlmayanSilinir) {
   f->cmdEdit_Click();
   f->cmdSave_Click();
   EXPECT_EQ(Ogeler(f->cmbNo) + ' ' + Ogeler(f->cmbAd), u"1 HASAN ARSLAN"_s);
-
   // The only customer, its contract gone: the deleted data stays on show with
   // the buttons of an empty table.
   Sql(u"DELETE FROM Sozlesme"_s);
@@ -311,7 +298,6 @@ TEST_F(MusteriTest, ListeyeYazilanTamOlarakAranir) {
   }
   // Nothing typed went into the lists.
   EXPECT_EQ(Ogeler(f->cmbNo) + ' ' + Ogeler(f->cmbAd), u"5,120 AHMET KARA,ALİ KARACA"_s);
-
   // A real box takes the focus from the list while it stands: the search
   // still runs once, with one message.
   QWidget kutu;
