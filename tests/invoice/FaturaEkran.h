@@ -21,8 +21,7 @@ class FaturaEkran : public SozlesEkran {
     Genel::SahipAdi.clear();
     Genel::PrinterFatura = ayarDizini() + QStringLiteral("/fatura.prn");
     Genel::PrinterSozlesme = ayarDizini() + QStringLiteral("/sozlesme.prn");
-    // Contract 1, AB 7 of 04.03.2005: one paper of 1.000.000,00; the interest
-    // is typed (Hesapla off), 40.000,00.
+    // Contract 1, AB 7 of 04.03.2005: one paper of 1.000.000,00; interest typed.
     Sozlesme(1, 7, 12, "2005-03-04", 5, 3, 0);
     Satir(1, "2005-04-04", 1000000);
     Calistir("UPDATE Sozlesme SET Tutar = 1000000, FaizTutar = 40000 WHERE SozlesmeID = 1");
@@ -31,7 +30,6 @@ class FaturaEkran : public SozlesEkran {
     fatura_.reset();
     SozlesEkran::TearDown();
   }
-
   // The contract screen on contract 1 and the invoice dialogue over it.
   frmFatura* FaturaAc() {
     if (!ekran_) Ac(false);
@@ -43,19 +41,21 @@ class FaturaEkran : public SozlesEkran {
     return fatura_.get();
   }
   std::unique_ptr<frmFatura> fatura_;
-
   // The figures on show, in the order of the screen.
   static QString Rakamlar(const frmFatura* f) {
     return Metinler({f->txtTutar, f->txtBMOran, f->txtBMVergisi, f->txtMasraf, f->txtPul,
                      f->txtToplamOdeme, f->txtSozlesmeTutar, f->txtGenelToplam, f->lblYazi});
   }
-
+  static void VergiNo() {
+    Calistir(
+        "UPDATE Musteri SET VergiDairesi = 'Kavaklıdere', VergiKimlikNo = '1234567890' "
+        "WHERE MusteriNo = 12");
+  }
   static QString Faturalar() {
     return Tablo(
         "SELECT FaturaSeri, FaturaNo, SozlesmeID, Tutar, BMVergisiYuzde, TahsilMasrafi, "
         "PulBedeli, ToplamMasraf, ToplamTutar FROM Fatura ORDER BY FaturaSeri, FaturaNo");
   }
-
   // Runs `islem` on the blocking dialogue once one is open (its exec runs
   // the event loop that gets here); gives up after two seconds.
   static void Modalda(std::function<void(QWidget*)> islem) {
@@ -68,7 +68,13 @@ class FaturaEkran : public SozlesEkran {
     });
     t->start(10);
   }
-
+  // The dialogue with number `no` typed and saved.
+  frmFatura* Kayitli(const QString& no) {
+    frmFatura* f = FaturaAc();
+    Yaz(f->txtFaturaNo, no);
+    EXPECT_TRUE(Bas(f->cmdSave));
+    return f;
+  }
   static QByteArray Dosya(const QString& yol) {
     QFile f(yol);
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();

@@ -17,8 +17,8 @@
 
 namespace {
 
-const QString kDbHata = QStringLiteral("Veri tabanı açılamadı. Ayarlarınızı kontrol ediniz!");
-const QString kBaslikSonu = QStringLiteral(" - YTL Velmora Bilgi İşlem Sistemi. V.2.3");
+const QString kDbHata = "Kritik HATA: Veri tabanı açılamadı. Ayarlarınızı kontrol ediniz!";
+const QString kBaslikSonu = " - YTL Velmora Bilgi İşlem Sistemi. V.2.3";
 
 class Acilis : public test::Ortam {
  public:
@@ -30,7 +30,6 @@ class Acilis : public test::Ortam {
     ana_.reset();
     test::Ortam::TearDown();
   }
-
   // Ends the program that runs (if any) and starts it again on the folders.
   frmMain& Baslat() {
     ana_.reset();
@@ -43,117 +42,86 @@ class Acilis : public test::Ortam {
     test::Isle();
     return *ana_;
   }
-
-  frmFirma* FirmaEkrani() {
-    return qobject_cast<frmFirma*>(ekran::Acik(QStringLiteral("frmFirma")));
-  }
-
+  frmFirma* FirmaEkrani() { return qobject_cast<frmFirma*>(ekran::Acik("frmFirma")); }
   // The clerk fills in the office's name and series and saves.
-  void FirmaKaydet(frmFirma* f) {
+  void FirmaKaydet() {
+    frmFirma* f = FirmaEkrani();
     ASSERT_NE(f, nullptr);
-    test::Tusla(f->txtSoyadi, QStringLiteral("Kılıç Finans"));
-    test::Tusla(f->txtSozlesmeSeri, QStringLiteral("AB"));
-    test::Tusla(f->txtFaturaSeri, QStringLiteral("FT"));
-    QTest::mouseClick(f->cmdUpdate, Qt::LeftButton);
-    test::Isle();
-    EXPECT_EQ(MesajMetinleri().value(0), QStringLiteral("Bilgiler Kaydedildi."));
+    test::Tusla(f->txtSoyadi, "Kılıç Finans");
+    test::Tusla(f->txtSozlesmeSeri, "AB");
+    test::Tusla(f->txtFaturaSeri, "FT");
+    test::Tikla(f->cmdUpdate);
+    EXPECT_EQ(MesajMetinleri().value(0), "Bilgiler Kaydedildi.");
   }
-
-  QString VeriTabani() const { return Genel::VeriTabaniYolu(); }
-
   std::unique_ptr<frmMain> ana_;
 };
 
 TEST_F(Acilis, IlkAcilistanFirmaKaydinaKadar) {
   Genel::Baglanti.Kapat();
-  ASSERT_TRUE(QFile::remove(VeriTabani()));
-
+  ASSERT_TRUE(QFile::remove(Genel::VeriTabaniYolu()));
   // First start: a new database, and the firm screen is the first thing asked.
   Baslat();
-  EXPECT_TRUE(QFile::exists(VeriTabani()));
-  EXPECT_TRUE(Mesajlar().isEmpty()) << MesajMetinleri().join(u'|').toStdString();
+  EXPECT_TRUE(QFile::exists(Genel::VeriTabaniYolu()));
+  EXPECT_EQ(Kutular(), "");
   ASSERT_NE(FirmaEkrani(), nullptr);
-  QTest::mouseClick(FirmaEkrani()->Command1, Qt::LeftButton);  // closed unsaved
-  test::Isle();
+  test::Tikla(FirmaEkrani()->Command1);  // closed unsaved
   EXPECT_EQ(FirmaEkrani(), nullptr);
-
   // Second start: no database error; the firm screen asks again.
-  frmMain& ikinci = Baslat();
-  EXPECT_TRUE(Mesajlar().isEmpty()) << MesajMetinleri().join(u'|').toStdString();
-  EXPECT_EQ(ikinci.windowTitle(), kBaslikSonu);
-  EXPECT_EQ(ekran::Acik(QStringLiteral("frmIni")), nullptr);
-  FirmaKaydet(FirmaEkrani());
-
+  EXPECT_EQ(Baslat().windowTitle(), kBaslikSonu);
+  EXPECT_EQ(Kutular(), "");
+  EXPECT_EQ(ekran::Acik("frmIni"), nullptr);
+  FirmaKaydet();
   // Third start: the firm's name in the title, nothing asked.
-  frmMain& ucuncu = Baslat();
-  EXPECT_TRUE(Mesajlar().isEmpty()) << MesajMetinleri().join(u'|').toStdString();
-  EXPECT_EQ(ucuncu.windowTitle(), QStringLiteral("Kılıç Finans") + kBaslikSonu);
+  EXPECT_EQ(Baslat().windowTitle(), "Kılıç Finans" + kBaslikSonu);
+  EXPECT_EQ(Kutular(), "");
   EXPECT_EQ(FirmaEkrani(), nullptr);
-  EXPECT_EQ(Genel::SozlesmeSeri, QStringLiteral("AB"));
-  EXPECT_EQ(Genel::FaturaSeri, QStringLiteral("FT"));
+  EXPECT_EQ(Genel::SozlesmeSeri + Genel::FaturaSeri, "ABFT");
 }
 
 TEST_F(Acilis, OkunamayanFirmaSatiriMenudenOnarilir) {
   // An older database whose firm row still holds Nulls.
   Genel::Baglanti.Calistir(
-      QStringLiteral("UPDATE Firma SET Soyadi = NULL, SozlesmeSeri = NULL, FaturaSeri = NULL"));
+      "UPDATE Firma SET Soyadi = NULL, SozlesmeSeri = NULL, FaturaSeri = NULL");
   frmMain& ana = Baslat();
-  EXPECT_EQ(MesajMetinleri(), QStringList{kDbHata});
-  EXPECT_NE(ekran::Acik(QStringLiteral("frmIni")), nullptr);
+  EXPECT_EQ(Kutular(), kDbHata);
+  EXPECT_NE(ekran::Acik("frmIni"), nullptr);
   EXPECT_TRUE(Genel::Baglanti.Acik());
-
   // "Firma Bilgileri" opens the screen that repairs it; the program runs on.
-  MesajlariTemizle();
   ana.mnuFirma->trigger();
   test::Isle();
-  EXPECT_TRUE(Mesajlar().isEmpty()) << MesajMetinleri().join(u'|').toStdString();
-  FirmaKaydet(FirmaEkrani());
-
-  Baslat();
-  EXPECT_TRUE(Mesajlar().isEmpty()) << MesajMetinleri().join(u'|').toStdString();
-  EXPECT_EQ(ana_->windowTitle(), QStringLiteral("Kılıç Finans") + kBaslikSonu);
+  EXPECT_EQ(Kutular(), "");
+  FirmaKaydet();
+  EXPECT_EQ(Baslat().windowTitle(), "Kılıç Finans" + kBaslikSonu);
+  EXPECT_EQ(Kutular(), "");
 }
 
 TEST_F(Acilis, MotorHatasiProgramiBitirmez) {
-  struct Durum {
-    const char* ad;
-    std::function<void(Acilis&)> hazirla;
-    QString mesaj;
-  };
-  const QList<Durum> durumlar = {
-      {"firma tablosu yok",
-       [](Acilis&) { Genel::Baglanti.Calistir(QStringLiteral("DROP TABLE Firma")); },
-       QStringLiteral("Bir Hata Oluştu\nno such table: Firma")},
-      {"veri tabanı olmayan dosya",
-       [](Acilis& a) {
-         Genel::Baglanti.Kapat();
-         QFile f(a.VeriTabani());
-         ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-         f.write("Bu bir veri tabanı değil.\n");
-       },
-       QStringLiteral("Veri tabanı açık değil. Ayarlarınızı kontrol edip programı yeniden "
-                      "başlatınız.")},
-  };
-  for (const Durum& d : durumlar) {
-    SCOPED_TRACE(d.ad);
+  for (const bool tabloYok : {true, false}) {
+    SCOPED_TRACE(tabloYok ? "firma tablosu yok" : "veri tabanı olmayan dosya");
     TearDown();
     SetUp();
-    d.hazirla(*this);
+    if (tabloYok) {
+      Genel::Baglanti.Calistir("DROP TABLE Firma");
+    } else {
+      Genel::Baglanti.Kapat();
+      QFile f(Genel::VeriTabaniYolu());
+      ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+      f.write("Bu bir veri tabanı değil.\n");
+    }
     frmMain& ana = Baslat();
-    EXPECT_EQ(MesajMetinleri(), QStringList{kDbHata});
-    MesajlariTemizle();
+    EXPECT_EQ(Kutular(), kDbHata);
     ana.mnuFirma->trigger();
     test::Isle();
-    ASSERT_EQ(MesajMetinleri(), QStringList{d.mesaj});
-    EXPECT_EQ(Mesajlar()[0].baslik, QStringLiteral("HATA"));
-    EXPECT_EQ(Mesajlar()[0].tur, mesaj::Tur::Kritik);
+    EXPECT_EQ(Kutular(), tabloYok ? "Kritik HATA: Bir Hata Oluştu\nno such table: Firma"
+                                  : "Kritik HATA: Veri tabanı açık değil. Ayarlarınızı kontrol "
+                                    "edip programı yeniden başlatınız.");
     // No half-made screen is left behind, and the program answers as before.
     EXPECT_EQ(FirmaEkrani(), nullptr);
     EXPECT_EQ(ana.mdi->subWindowList().size(), 1);  // the settings screen
     EXPECT_TRUE(ana.isVisible());
     ana.mnuAbout->trigger();
     test::Isle();
-    EXPECT_NE(ekran::Acik(QStringLiteral("frmhakkinda")), nullptr);
+    EXPECT_NE(ekran::Acik("frmhakkinda"), nullptr);
   }
 }
 
