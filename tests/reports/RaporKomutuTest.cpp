@@ -1,18 +1,13 @@
 // The reports of the command line: refused arguments and dates, and files
 // that hold exactly what the screens' grids show for the same choice.
 
-#include <QApplication>
-#include <QFile>
-#include <QTemporaryDir>
-
-#include "core/Genel.h"
 #include "reports/IzgaraCsv.h"
 #include "reports/RaporKomutu.h"
 #include "reports/frmKesideciBilgi.h"
 #include "reports/frmMusteriDurum.h"
 #include "reports/frmRapor.h"
 #include "reports/frmTahsilat.h"
-#include "tests/support/Ortam.h"
+#include "tests/reports/Ortak.h"
 
 namespace {
 
@@ -20,21 +15,20 @@ class RaporKomutu : public test::Ortam {
  protected:
   void SetUp() override {
     Ortam::SetUp();
-    Calistir(
-        "INSERT INTO Musteri(MusteriNo, Soyadi, Adi, HukukiDurum) VALUES "
-        "(1, 'YILMAZ', 'ALİ', 1), (2, 'ÇELİK', 'AŞ', 2)");
-    Calistir(
-        "INSERT INTO Sozlesme(SozlesmeID, SozlesmeSeri, SozlesmeNo, MusteriNo, Tarih, Tutar, "
-        "FaizTutar) VALUES (1, 'AB', 7, 1, '2026-01-10', 1000, 0.5), "
-        "(2, 'AB', 8, 2, '2026-02-10', 250.25, 10)");
-    Calistir(
-        "INSERT INTO SozlesmeDetay(SozlesmeID, SozlesmeSeri, SozlesmeNo, Tip, Kesideci, Banka, "
-        "CekNo, Vadesi, Odenmesi, Meblag, Doviz) VALUES "
-        "(1, 'AB', 7, 'Çek', 'O''NEIL; \"X\"', 'ZİRAAT', '1', '2026-01-20', '2026-01-20', 600, "
-        "'TRL'), (1, 'AB', 7, 'Senet', 'ŞAHİN', NULL, '2', '2026-03-01', NULL, 400, 'TRL'), "
-        "(2, 'AB', 8, 'Çek', 'AYŞE', 'İŞ', '3', '2030-01-01', '2030-01-01', 250.25, 'USD')");
+    test::Ekle("Musteri", "MusteriNo, Soyadi, Adi, HukukiDurum",
+               {{1, "YILMAZ", "ALİ", 1}, {2, "ÇELİK", "AŞ", 2}});
+    test::Ekle(
+        "Sozlesme", "SozlesmeID, SozlesmeSeri, SozlesmeNo, MusteriNo, Tarih, Tutar, FaizTutar",
+        {{1, "AB", 7, 1, "2026-01-10", 1000, 0.5}, {2, "AB", 8, 2, "2026-02-10", 250.25, 10}});
+    test::Ekle(
+        "SozlesmeDetay",
+        "SozlesmeID, SozlesmeSeri, SozlesmeNo, Tip, Kesideci, Banka, CekNo, Vadesi, "
+        "Odenmesi, Meblag, Doviz",
+        {{1, "AB", 7, "Çek", "O'NEIL; \"X\"", "ZİRAAT", "1", "2026-01-20", "2026-01-20", 600,
+          "TRL"},
+         {1, "AB", 7, "Senet", "ŞAHİN", QVariant(), "2", "2026-03-01", QVariant(), 400, "TRL"},
+         {2, "AB", 8, "Çek", "AYŞE", "İŞ", "3", "2030-01-01", "2030-01-01", 250.25, "USD"}});
   }
-  static void Calistir(const QString& sql) { Genel::Baglanti.Calistir(sql); }
 
   struct Sonuc {
     int kod;
@@ -95,7 +89,7 @@ TEST_F(RaporKomutu, HataliGirisDosyaYazmaz) {
   Sonuc s = Komut({"cari", "--csv", dizin_.filePath("yok/a.csv")});
   EXPECT_EQ(s.kod, 1);
   EXPECT_TRUE(s.hata.startsWith("Dosya yazılamadı: ")) << s.hata.toStdString();
-  Calistir("DROP VIEW SozlesmePrint");
+  test::Calistir("DROP VIEW SozlesmePrint");
   s = Komut({"gelir", "--csv", dosya});
   EXPECT_EQ(s.kod, 1);
   EXPECT_TRUE(s.hata.startsWith("Bir Hata Oluştu: ")) << s.hata.toStdString();
