@@ -16,19 +16,16 @@ class MusteriBilgi : public test::RaporEkrani<frmMusteriBilgi> {
  protected:
   void SetUp() override {
     RaporEkrani::SetUp();
-    test::Ekle("Musteri", "MusteriNo, Soyadi, Adi, HukukiDurum",
-               {{1, "YILMAZ", "ALİ", 1}, {2, "KAYA", "ŞÜKRÜ", 1}});
+    test::Ekle("Musteri(MusteriNo, Soyadi, Adi, HukukiDurum)",
+               "(1, 'YILMAZ', 'ALİ', 1), (2, 'KAYA', 'ŞÜKRÜ', 1)");
     // Contract 1 of ALİ starts 10 days ago with 3 extra days; contract 2 is ŞÜKRÜ's.
-    test::Ekle("Sozlesme", "SozlesmeID, SozlesmeSeri, SozlesmeNo, MusteriNo, Tarih, ilaveGun",
-               {{1, "AB", 7, 1, Gun(-10), 3}, {2, "AB", 8, 2, Gun(-10), 0}});
+    test::Ekle("Sozlesme(SozlesmeID, SozlesmeSeri, SozlesmeNo, MusteriNo, Tarih, ilaveGun)",
+               "(1, 'AB', 7, 1, @-10, 3), (2, 'AB', 8, 2, @-10, 0)");
   }
-  // A paper of contract 1 or 2; days from today, no payment: bounced.
-  static void Cek(int sozlesme, const char* kesideci, int vade, std::optional<int> odeme,
-                  double meblag, int gun = 0) {
-    test::Ekle("SozlesmeDetay",
-               "SozlesmeID, SozlesmeNo, Tip, Kesideci, Vadesi, Odenmesi, Gun, Meblag, Doviz",
-               {{sozlesme, sozlesme + 6, "Çek", kesideci, Gun(vade),
-                 odeme ? QVariant(Gun(*odeme)) : QVariant(), gun, meblag, "TRL"}});
+  // Papers: contract, drawer, maturity, payment (Null: bounced), amount, day
+  // count (0: reckoned).
+  static void Cekler(const QString& satirlar) {
+    test::Ekle("SozlesmeDetay(SozlesmeID, Kesideci, Vadesi, Odenmesi, Meblag, Gun)", satirlar);
   }
   // The view as the clerk reads it: title, drawers/days in order, count,
   // total, and the averages unless `ortalama` is false.
@@ -43,11 +40,12 @@ class MusteriBilgi : public test::RaporEkrani<frmMusteriBilgi> {
 };
 
 TEST_F(MusteriBilgi, DortGorunumBirMusteriVeHepsi) {
-  Cek(1, "ÖDENDİ", -5, -5, 1000);         // paid
-  Cek(1, "BUGÜN", 0, 0, 500);             // due today: at risk here
-  Cek(1, "KARŞILIKSIZ", -2, {}, 0.5, 4);  // bounced, stored day count
-  Cek(1, "İLERİ", 20, 20, 2000);          // at risk
-  Cek(2, "BAŞKA", 1, 1, 300);             // the other customer's
+  // Paid; due today, at risk here; bounced, its day count stored; at risk;
+  // the other customer's.
+  Cekler(
+      "(1, 'ÖDENDİ', @-5, @-5, 1000, 0), (1, 'BUGÜN', @0, @0, 500, 0), "
+      "(1, 'KARŞILIKSIZ', @-2, NULL, 0.5, 4), (1, 'İLERİ', @20, @20, 2000, 0), "
+      "(2, 'BAŞKA', @1, @1, 300, 0)");
   auto* f = Ac();
   EXPECT_EQ(f->windowTitle(), u"Müşteri Risk Durumu"_s);
   EXPECT_EQ(f->cmbAd->count(), 2);
@@ -89,9 +87,9 @@ TEST_F(MusteriBilgi, DortGorunumBirMusteriVeHepsi) {
 }
 
 TEST_F(MusteriBilgi, TarihlerOdemeyeUygulanirKarsiliksizDuser) {
-  Cek(1, "ESKİ", -30, -30, 100);
-  Cek(1, "KARŞILIKSIZ", -2, {}, 50);
-  Cek(1, "YENİ", -1, -1, 10);
+  Cekler(
+      "(1, 'ESKİ', @-30, @-30, 100, 0), (1, 'KARŞILIKSIZ', @-2, NULL, 50, 0), "
+      "(1, 'YENİ', @-1, @-1, 10, 0)");
   auto* f = Ac();
   test::ListeyeYaz(f->cmbAd, "ALİ YILMAZ", Qt::Key_Tab);
   const QString bas = QDate::currentDate().addDays(-40).toString("dd.MM.yyyy");
@@ -155,8 +153,7 @@ TEST_F(MusteriBilgi, HataliGirisMesajVerirOdakKalir) {
 // The statement's figures without the screen: a customer's lines whose
 // contract was deleted by hand drop out of the join, never fail.
 TEST_F(MusteriBilgi, SilinmisSozlesmeninSatiriDuser) {
-  Cek(1, "KALAN", 0, 0, 10);
-  Cek(2, "YETİM", 0, 0, 20);
+  Cekler("(1, 'KALAN', @0, @0, 10, 0), (2, 'YETİM', @0, @0, 20, 0)");
   test::Calistir("DELETE FROM Sozlesme WHERE SozlesmeID = 2");
   musteribilgi::Secim s;
   s.bugun = QDate::currentDate();

@@ -6,6 +6,7 @@
 #include <QDate>
 #include <QHeaderView>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest/QTest>
@@ -30,14 +31,14 @@ inline QString Ekran(int fark) { return Genel::TarihYaz(QDate::currentDate().add
 inline void Calistir(const QString& sql, const QVariantList& deger = {}) {
   Genel::Baglanti.Calistir(sql, deger);
 }
-// Rows into a table, its columns named once; a null QVariant() is Null.
-inline void Ekle(const char* tablo, const char* sutunlar,
-                 std::initializer_list<QVariantList> satirlar) {
-  for (const QVariantList& s : satirlar)
-    Calistir(
-        u"INSERT INTO %1(%2) VALUES (%3)"_s.arg(QLatin1String(tablo), QString::fromUtf8(sutunlar),
-                                                QStringList(s.size(), u"?"_s).join(',')),
-        s);
+// Rows into a table, "Tablo(Alan, ...)", written as SQL values; @N stands
+// for the day N days from today.
+inline void Ekle(const QString& tablo, QString satirlar) {
+  static const QRegularExpression gun(u"@(-?\\d+)"_s);
+  for (QRegularExpressionMatch m; (m = gun.match(satirlar)).hasMatch();)
+    satirlar.replace(m.capturedStart(), m.capturedLength(),
+                     '\'' + Gun(m.captured(1).toInt()) + '\'');
+  Calistir(u"INSERT INTO "_s + tablo + u" VALUES "_s + satirlar);
 }
 
 // A grid's rows as shown, the cells joined by `ara` (only `sutunlar` if given).

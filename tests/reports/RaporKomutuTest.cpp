@@ -15,19 +15,17 @@ class RaporKomutu : public test::Ortam {
  protected:
   void SetUp() override {
     Ortam::SetUp();
-    test::Ekle("Musteri", "MusteriNo, Soyadi, Adi, HukukiDurum",
-               {{1, "YILMAZ", "ALİ", 1}, {2, "ÇELİK", "AŞ", 2}});
+    test::Ekle("Musteri(MusteriNo, Soyadi, Adi, HukukiDurum)",
+               "(1, 'YILMAZ', 'ALİ', 1), (2, 'ÇELİK', 'AŞ', 2)");
     test::Ekle(
-        "Sozlesme", "SozlesmeID, SozlesmeSeri, SozlesmeNo, MusteriNo, Tarih, Tutar, FaizTutar",
-        {{1, "AB", 7, 1, "2026-01-10", 1000, 0.5}, {2, "AB", 8, 2, "2026-02-10", 250.25, 10}});
+        "Sozlesme(SozlesmeID, SozlesmeSeri, SozlesmeNo, MusteriNo, Tarih, Tutar, FaizTutar)",
+        "(1, 'AB', 7, 1, '2026-01-10', 1000, 0.5), (2, 'AB', 8, 2, '2026-02-10', 250.25, 10)");
     test::Ekle(
-        "SozlesmeDetay",
-        "SozlesmeID, SozlesmeSeri, SozlesmeNo, Tip, Kesideci, Banka, CekNo, Vadesi, "
-        "Odenmesi, Meblag, Doviz",
-        {{1, "AB", 7, "Çek", "O'NEIL; \"X\"", "ZİRAAT", "1", "2026-01-20", "2026-01-20", 600,
-          "TRL"},
-         {1, "AB", 7, "Senet", "ŞAHİN", QVariant(), "2", "2026-03-01", QVariant(), 400, "TRL"},
-         {2, "AB", 8, "Çek", "AYŞE", "İŞ", "3", "2030-01-01", "2030-01-01", 250.25, "USD"}});
+        "SozlesmeDetay(SozlesmeID, SozlesmeSeri, SozlesmeNo, Tip, Kesideci, Banka, CekNo, Vadesi, "
+        "Odenmesi, Meblag, Doviz)",
+        "(1, 'AB', 7, 'Çek', 'O''NEIL; \"X\"', 'ZİRAAT', '1', '2026-01-20', '2026-01-20', 600, "
+        "'TRL'), (1, 'AB', 7, 'Senet', 'ŞAHİN', NULL, '2', '2026-03-01', NULL, 400, 'TRL'), "
+        "(2, 'AB', 8, 'Çek', 'AYŞE', 'İŞ', '3', '2030-01-01', '2030-01-01', 250.25, 'USD')");
   }
 
   struct Sonuc {

@@ -21,9 +21,9 @@ class Tahsilat : public test::RaporEkrani<frmTahsilat> {
  protected:
   void SetUp() override {
     RaporEkrani::SetUp();
-    test::Ekle("Musteri", "MusteriNo, Soyadi, Adi, HukukiDurum", {{1, "YILMAZ", "ALİ", 1}});
-    test::Ekle("Sozlesme", "SozlesmeID, SozlesmeSeri, SozlesmeNo, MusteriNo, Tarih",
-               {{1, "AB", 7, 1, Gun(-60)}});
+    test::Ekle("Musteri(MusteriNo, Soyadi, Adi, HukukiDurum)", "(1, 'YILMAZ', 'ALİ', 1)");
+    test::Ekle("Sozlesme(SozlesmeID, SozlesmeSeri, SozlesmeNo, MusteriNo, Tarih)",
+               "(1, 'AB', 7, 1, @-60)");
   }
 
   struct Cek {
@@ -33,12 +33,12 @@ class Tahsilat : public test::RaporEkrani<frmTahsilat> {
     double meblag = 100;
   };
   static qint64 Ekle(const Cek& c) {
-    test::Ekle("SozlesmeDetay",
-               "SozlesmeID, SozlesmeSeri, SozlesmeNo, Tip, Kesideci, Banka, Sube, HesapNo, CekNo, "
-               "Vadesi, Odenmesi, Gun, Meblag, Doviz",
-               {{1, "AB", 7, "Çek", c.kesideci, c.banka.isNull() ? QVariant() : QVariant(c.banka),
-                 "KIZILAY", "55", c.cekNo, Gun(c.vade),
-                 c.odeme ? QVariant(Gun(*c.odeme)) : QVariant(), 0, c.meblag, "TRL"}});
+    test::Calistir(
+        "INSERT INTO SozlesmeDetay(SozlesmeID, SozlesmeSeri, SozlesmeNo, Tip, Kesideci, Banka, "
+        "Sube, HesapNo, CekNo, Vadesi, Odenmesi, Gun, Meblag, Doviz) "
+        "VALUES (1, 'AB', 7, 'Çek', ?, ?, 'KIZILAY', '55', ?, ?, ?, 0, ?, 'TRL')",
+        {c.kesideci, c.banka.isNull() ? QVariant() : QVariant(c.banka), c.cekNo, Gun(c.vade),
+         c.odeme ? QVariant(Gun(*c.odeme)) : QVariant(), c.meblag});
     return Genel::Baglanti.SonEklenenNo();
   }
 
