@@ -17,11 +17,11 @@ class Kesideci : public test::RaporEkrani<frmKesideciBilgi> {
                "(1, 'YILMAZ', 'ALİ', 1), (2, 'KAYA', 'ŞÜKRÜ', 1)");
     test::Ekle("Sozlesme(SozlesmeID, SozlesmeSeri, SozlesmeNo, MusteriNo, Tarih)",
                "(1, 'AB', 7, 1, '2026-01-01'), (2, 'AB', 8, 2, '2026-01-02')");
-    // Contract 9 is gone.
     Cekler(
-        "(7, 'O''NEIL', '2026-03-01', '2026-03-01', 100), (8, 'ONUR', '2026-02-01', "
-        "'2026-02-01', 20), (8, 'O''NEIL', '2026-01-15', NULL, 0.5), (7, 'AHMET ONUR', "
-        "'2026-04-01', '2026-04-01', 7), (9, 'O''NEIL', '2026-05-01', '2026-05-01', 1), "
+        "(7, 'O''NEIL', '2026-03-01', '2026-03-01', 100), "
+        "(8, 'ONUR', '2026-02-01', '2026-02-01', 20), (8, 'O''NEIL', '2026-01-15', NULL, 0.5), "
+        "(7, 'AHMET ONUR', '2026-04-01', '2026-04-01', 7), "
+        "(9, 'O''NEIL', '2026-05-01', '2026-05-01', 1), "  // its contract is gone
         "(7, '%5_İNDİRİM', '2026-06-01', '2026-06-01', 3)");
   }
   // Papers of series AB: contract number, drawer, maturity, payment (Null:
@@ -103,8 +103,9 @@ TEST_F(Kesideci, IsaretlilerinBelgeleriBirKezSayilir) {
   // A bad date keeps the focus and lists nothing new.
   Yaz(f->txtSonTar, "31.02.2026");
   Tikla(f->cmdBilgiGoster);
-  EXPECT_EQ(MesajMetinleri(), QStringList{"Lütfen Geçerli Bir Tarih Girin"});
+  EXPECT_EQ(Kutular(), u"Kritik UYARI: Lütfen Geçerli Bir Tarih Girin"_s);
   EXPECT_TRUE(f->txtSonTar->hasFocus());
+  EXPECT_EQ(Gorulen(f), "|0|,00");
 }
 
 // Drawers ranked by their bounced papers, with what is still at risk beside
