@@ -111,14 +111,15 @@ TEST_F(MusteriDurum, OzetHerDegisiklikteSatirlarlaAyni) {
   ayni("başta");
   Calistir("UPDATE SozlesmeDetay SET Odenmesi = NULL WHERE SozlesmeID = 1");
   Calistir("UPDATE SozlesmeDetay SET Odenmesi = ? WHERE SozlesmeID = 6", {Gun(3)});
-  Calistir("UPDATE SozlesmeDetay SET Meblag = Meblag * 3 + 0.07, Vadesi = ? WHERE SozlesmeID = 2",
-           {Gun(9)});
+  Calistir("UPDATE SozlesmeDetay SET Meblag = Meblag * 3 + 0.07 WHERE SozlesmeID = 2");
+  Calistir("UPDATE SozlesmeDetay SET Vadesi = ? WHERE SozlesmeID = 2", {Gun(9)});
   ayni("durum, tutar, vade");
   Calistir("UPDATE SozlesmeDetay SET SozlesmeID = 4 WHERE SozlesmeID = 3 AND Meblag < 1");
   Calistir("DELETE FROM SozlesmeDetay WHERE SozlesmeID = 2 AND Odenmesi IS NULL");
   Cekler("(5, @0, @0, 2.5)");
   ayni("satır taşı, sil, ekle");
-  Calistir("UPDATE Sozlesme SET MusteriNo = 6, Tarih = ? WHERE SozlesmeID = 1", {Gun(-90)});
+  Calistir("UPDATE Sozlesme SET MusteriNo = 6 WHERE SozlesmeID = 1");
+  Calistir("UPDATE Sozlesme SET Tarih = ? WHERE SozlesmeID = 1", {Gun(-90)});
   Calistir("UPDATE Sozlesme SET MusteriNo = NULL WHERE SozlesmeID = 4");
   ayni("sözleşmenin müşterisi ve tarihi");
   Calistir("DELETE FROM Sozlesme WHERE SozlesmeID = 3");  // its lines stay, orphaned
