@@ -26,10 +26,8 @@ class Gelir : public test::RaporEkrani<frmRapor> {
   }
   // The listed contracts, and the figures under the list.
   static QString Gorulen(frmRapor* f) {
-    return (test::Satirlar(f->dGridDetay->Model(), " ")
-            << QStringList{f->txtAdet->text(), f->txtToplam[0]->text(), f->txtToplam[1]->text(),
-                           f->txtToplam[2]->text(), f->txtToplam[3]->text()}
-                   .join('|'))
+    return (test::Satirlar(f->dGridDetay->Model(), " ") << test::Metinler(
+                f->txtAdet, f->txtToplam[0], f->txtToplam[1], f->txtToplam[2], f->txtToplam[3]))
         .join('\n');
   }
 };

@@ -38,7 +38,7 @@ class Kesideci : public test::RaporEkrani<frmKesideciBilgi> {
   static QString Gorulen(frmKesideciBilgi* f) {
     if (!f->dGridDetay->isVisible()) return "gizli";
     return test::Satirlar(f->dGridDetay->Model(), "/", {0, 1, 3}).join(',') + "|" +
-           f->txtAdet->text() + "|" + f->txtToplam->text();
+           test::Metinler(f->txtAdet, f->txtToplam);
   }
 };
 

@@ -64,6 +64,12 @@ inline void BaslikTikla(QTableView* v, int sutun) {
   Isle();
 }
 
+// The texts of boxes and labels, joined by "|".
+template <class... K>
+QString Metinler(K*... kutular) {
+  return QStringList{kutular->text()...}.join('|');
+}
+
 // The report window a screen opened, printed to PDF and read back by
 // pdftotext (a null string when it is missing); the window goes.
 inline QString Basilan(QString* baslik = nullptr) {
@@ -73,12 +79,10 @@ inline QString Basilan(QString* baslik = nullptr) {
   if (!p) return u"rapor penceresi yok"_s;
   if (baslik) *baslik = p->rapor().baslik;
   QTemporaryDir d;
-  const QString yol = d.filePath(u"r.pdf"_s);
+  const QString yol = d.filePath(u"r.pdf"_s), arac = QStandardPaths::findExecutable(u"pdftotext"_s);
   const bool yazildi = rapor::PdfYaz(p->rapor(), yol);
   delete p;
-  if (!yazildi) return u"PDF yazılamadı"_s;
-  const QString arac = QStandardPaths::findExecutable(u"pdftotext"_s);
-  if (arac.isEmpty()) return QString();
+  if (!yazildi || arac.isEmpty()) return yazildi ? QString() : u"PDF yazılamadı"_s;
   QProcess pdf;
   pdf.start(arac, {u"-layout"_s, u"-enc"_s, u"UTF-8"_s, yol, u"-"_s});
   EXPECT_TRUE(pdf.waitForFinished(30000));

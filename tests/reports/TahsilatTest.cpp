@@ -50,9 +50,7 @@ class Tahsilat : public test::RaporEkrani<frmTahsilat> {
         .join('\n');
   }
   static QString Toplamlar(frmTahsilat* f) {
-    return QStringList{f->txtTopAdet->text(), f->txtTopTutar->text(), f->txtSizAdet->text(),
-                       f->txtSizTutar->text()}
-        .join('|');
+    return test::Metinler(f->txtTopAdet, f->txtTopTutar, f->txtSizAdet, f->txtSizTutar);
   }
   static QVariant Odenmesi(qint64 giris) {
     return Genel::Baglanti.Deger("SELECT Odenmesi FROM SozlesmeDetay WHERE GirisNo = ?", {giris});
