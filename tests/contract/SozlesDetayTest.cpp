@@ -1,6 +1,4 @@
-// The cheques and notes of the contract screen: the checks of a line in their
-// order, the limit, notes, the last values, quotes in the texts, taking a
-// stored line in to change or delete it, and the state column of the grid.
+// The cheques and notes of the contract screen.
 
 #include <tuple>
 
@@ -10,7 +8,6 @@ namespace {
 
 class SozlesDetay : public test::SozlesEkran {
  protected:
-  // Contract 1: number 7, 4 March 2005, rate 5.
   void SetUp() override {
     SozlesEkran::SetUp();
     Sozlesme(1, 7, 12, "2005-03-04");
@@ -42,8 +39,7 @@ TEST_F(SozlesDetay, EkleKontrolleriSirasiyla) {
     Yaz(alan, deger);
   }
   EXPECT_EQ(Satirlar(), "");
-  // Nothing picked in the type list: its first item, without a word. The
-  // entry is empty again for the next line, of the same type.
+  // Nothing picked in the type list: its first item; the entry empties, the type stays.
   ASSERT_TRUE(Bas(f->cmdDetayEkle));
   EXPECT_EQ(Kutular(), "");
   EXPECT_EQ(Satirlar(), "7|Çek|MEHMET KAYA|ZİRAAT|KIZILAY|123|A-1|2005-04-04|2005-04-04|30|1000");
@@ -82,8 +78,7 @@ TEST_F(SozlesDetay, SenetBankasizVeMusteriAdiyla) {
   Yaz(f->cmbTip, "Çek");
   EXPECT_TRUE(f->txtBanka->isEnabled());
 
-  // A stored cheque made into a note keeps its bank, branch, account and
-  // number; after it the type list runs its click: a note's fields stay off.
+  // A stored cheque made into a note keeps its bank, branch, account and number.
   CiftTikla(f, 0);
   Yaz(f->cmbTip, "Senet");
   Yaz(f->txtVade, QString());
@@ -142,13 +137,11 @@ TEST_F(SozlesDetay, SatirAlinirDegisirSilinir) {
   EXPECT_EQ(Sutun(f, "Durum"), "Tahsil|Ksız|");
   EXPECT_EQ(Sutun(f, "Meblag"), ",50|1.000,00|10,00");
 
-  // DÜZELT does nothing until a row is picked, and browsing, a double click
-  // takes nothing in.
+  // Browsing, DÜZELT without a picked row and a double click take nothing in.
   ASSERT_TRUE(Bas(f->cmdCekDuzelt));
   EXPECT_EQ(f->KayitDurum, 0);
   CiftTikla(f, 0);
   EXPECT_EQ(f->DetayDurum, 3);
-  // A row picked: DÜZELT opens the contract for change and takes it in.
   f->dGridDetay->selectRow(1);
   ASSERT_TRUE(Bas(f->cmdCekDuzelt));
   EXPECT_TRUE(f->KayitDurum == 1 && f->DetayDurum == 1);
@@ -164,14 +157,12 @@ TEST_F(SozlesDetay, SatirAlinirDegisirSilinir) {
   EXPECT_EQ(Tablo(vadeler), degisti);
   EXPECT_TRUE(f->cmdDetayEkle->text() == "Ekle" && f->cmdDetaySil->isHidden());
 
-  // Taken in and dropped: the stored line stays as it was.
   CiftTikla(f, 0);
   Yaz(f->txtMeblag, "9");
   ASSERT_TRUE(Bas(f->cmdVazgec));
   EXPECT_TRUE(f->DetayDurum == 3 && Giris(f) == "Çek|||||||0||TRL");
   EXPECT_TRUE(f->cmdDetayEkle->text() == "Ekle" && f->cmdDetaySil->isHidden());
-  // Deleting asks first; no keeps it; yes: gone, and the contract's totals
-  // are stored anew.
+  // Deleting asks first; yes stores the contract's totals anew.
   for (const mesaj::Dugme cevap : {mesaj::Dugme::Hayir, mesaj::Dugme::Evet}) {
     EXPECT_EQ(Tablo(vadeler), degisti);
     CiftTikla(f, 2);

@@ -93,10 +93,11 @@ class SozlesEkran : public Ortam {
         {id, kesideci, cekNo, vade, vade, gun, meblag, id});
   }
 
-  // A screen, shown, loaded and active, open until the test ends or another
-  // one of its kind is opened.
+  // A screen in either mode, shown, loaded and active, open until the test
+  // ends or another one is opened here.
   template <class T>
-  T* Pencere() {
+  T* Pencere(bool musteriBazinda = false) {
+    Genel::MusteriBazinda = musteriBazinda;
     pencere_.reset();
     auto* f = new T;
     pencere_.reset(f);
@@ -106,10 +107,10 @@ class SozlesEkran : public Ortam {
     Isle();
     return f;
   }
-  void PencereKapat() { pencere_.reset(); }
+  std::unique_ptr<QWidget> pencere_;
+  // The contract screen, apart: other screens open over it.
   frmSozles* Ac(bool musteriBazinda) {
     Genel::MusteriBazinda = musteriBazinda;
-    ekran_.reset();
     ekran_ = std::make_unique<frmSozles>();
     ekran_->show();
     QApplication::setActiveWindow(ekran_.get());
@@ -118,7 +119,6 @@ class SozlesEkran : public Ortam {
     return ekran_.get();
   }
   std::unique_ptr<frmSozles> ekran_;
-  std::unique_ptr<QWidget> pencere_;
 
   // Into a field as a clerk types: the focus goes there first, so that the
   // field left behind runs its check; a disabled field takes nothing. A null
@@ -206,7 +206,7 @@ class SozlesEkran : public Ortam {
       if (w->isEnabled()) adlar << w->objectName();
     return adlar.join(' ');
   }
-  // The title of a report window's page header.
+  // The texts of a report's page header.
   static QString Basliklar(const rapor::Rapor& r) {
     QStringList l;
     for (const rapor::Yazi& y : r.sayfaBasligi.yazilar) l << y.metin;
