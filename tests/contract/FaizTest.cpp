@@ -1,6 +1,4 @@
-// Interest and totals on plain values: rule D, TutarHesap and the field
-// rules, the worked examples, then the bad inputs; and the bordro, whose
-// figures are read from the tables and must be the contract's to the bit.
+// Interest and totals on plain values, and the bordro read from the tables.
 
 #include <gtest/gtest.h>
 
@@ -21,8 +19,7 @@ const QDate kCumartesi(2005, 3, 5);  // Saturday
 const QDate kPazar(2005, 3, 6);      // Sunday
 const QDate kPazartesi(2005, 3, 7);  // Monday
 
-// A line with a day count of its own, one counted from its due date, and the
-// marker line ("X" as cheque number and drawer).
+// A line with its own day count, one counted from its due date, the marker line.
 Satir Gun(double meblag, qint64 gun, QDate vade = QDate(2005, 4, 4)) {
   return {vade, gun, meblag, {}, {}};
 }
@@ -61,7 +58,6 @@ QString Ozet(const Girdi& g, const std::vector<Satir>& satirlar) {
          (s.Rakamlar.TarihEksik ? QStringLiteral("|tarih eksik") : QString());
 }
 
-// Fresh folders, Turkish separators and BinlikAyirici as the program sets them.
 class Faiz : public test::Ortam {};
 
 TEST_F(Faiz, GunKurali) {
@@ -206,7 +202,6 @@ TEST_F(Faiz, OranAlani) {
     double v = 0;
     EXPECT_TRUE(Genel::SayiOkuDene(faiz::OranAlani(QString::fromLatin1(t)), v)) << t;
   }
-  // Other regional settings.
   Genel::Bolge().ondalik = QLatin1Char('.');
   Genel::Bolge().binlik = QLatin1Char(',');
   Genel::BinlikAyirici = QStringLiteral(",");
@@ -245,14 +240,11 @@ TEST_F(Faiz, GunValorVeKilit) {
   EXPECT_EQ(kilit(false), u"A+A+K?");
 }
 
-// --- the bordro
-
 QString Sayi(const std::optional<double>& d) {
   return d ? QString::number(*d, 'f', 2) : QStringLiteral("-");
 }
 
-// The lines of a bordro, one text each: drawer, due date, days, amount,
-// interest and payable amount (to the cent), "-" for none.
+// A bordro's lines: drawer, due date, days, amount, interest, payable; "-" for none.
 QString Satirlari(const contract::Bordro& b) {
   QStringList l;
   for (const contract::BordroSatiri& s : b.satirlar)
@@ -305,9 +297,7 @@ class BordroTest : public test::Ortam {
 };
 
 TEST_F(BordroTest, SatirRakamlariSozlesmeToplamlariylaAyni) {
-  // Friday 4 March 2005, ilaveGun 3, rate 5: lines due on Saturday, on Sunday
-  // (with a Null Gun), on Saturday with an override of 30, a month later, and
-  // one without a due date; the same lines for TutarHesap.
+  // Friday, ilaveGun 3, rate 5; the same lines for TutarHesap.
   Sozlesme(1, 1, "2005-03-04");
   const std::tuple<const char*, const char*, QDate, QVariant, double> satirlar[] = {
       {"Çek", "Şükrü Öğün", kCumartesi, 0, 1000},
@@ -324,7 +314,6 @@ TEST_F(BordroTest, SatirRakamlariSozlesmeToplamlariylaAyni) {
   Sozlesme(2, 1, "2005-03-04");  // another contract: none of its lines may show
   Satir(2, "Çek", "Başka", QStringLiteral("2005-03-07"), 0, 999);
 
-  // Saturday +2, Sunday +1 only with the setting; an override stays as it is.
   const QString ilkIki[] = {QStringLiteral("Şükrü Öğün|2005-03-05|4|1000.00|6.67|993.33\n"
                                            "O'Brien|2005-03-06|5|2000.00|16.67|1983.33\n"),
                             QStringLiteral("Şükrü Öğün|2005-03-05|6|1000.00|10.00|990.00\n"
@@ -337,8 +326,7 @@ TEST_F(BordroTest, SatirRakamlariSozlesmeToplamlariylaAyni) {
                                 "Ali Yılmaz|2005-03-05|30|1500.00|75.00|1425.00\n"
                                 "Can|2005-04-04|34|1234.56|69.96|1164.60\nCan||-|100.00|-|-");
     EXPECT_EQ(b.kayitlar.Metin("Musteri"), "Ali Yılmaz");
-    // With the stored rate and date on screen, the contract's totals are the
-    // bordro's sums, to the last bit.
+    // With the stored rate and date on screen, the totals agree to the last bit.
     const faiz::Sonuc t = faiz::TutarHesap(Soz(5, haftaSonu ? kHaftaSonu : 0), faizSatirlari);
     EXPECT_EQ(b.ToplamFaiz, t.Rakamlar.ToplamFaiz);
     EXPECT_EQ(b.ToplamMeblag, t.Rakamlar.Toplam);
@@ -348,15 +336,12 @@ TEST_F(BordroTest, SatirRakamlariSozlesmeToplamlariylaAyni) {
 }
 
 TEST_F(BordroTest, SakliOranVeTarihKullanilirBosDegerlerSifirSayilir) {
-  // An old contract without ilaveGun and rate: both count as 0, as the
-  // contract screen shows them; the day count still follows the dates.
+  // An old contract without ilaveGun and rate: both count as 0.
   Sozlesme(3, 2, "2024-01-10", QVariant(), QVariant());
   Satir(3, "Çek", "Can", QStringLiteral("2024-01-20"), 0, 500);
   const contract::Bordro b = contract::BordroVerisi(3);
   EXPECT_EQ(Satirlari(b), "Can|2024-01-20|10|500.00|0.00|500.00");
-  // A name part that is Null counts as empty in the statement's name.
   EXPECT_EQ(b.kayitlar.Metin("Musteri"), "Demir Ayşe ");
-  // A contract of someone not in the register, or none at all: no rows.
   Sozlesme(4, 99, "2024-01-10");
   Satir(4, "Çek", "Can", QStringLiteral("2024-01-20"), 0, 500);
   EXPECT_EQ(contract::BordroVerisi(4).satirlar.size(), 0);

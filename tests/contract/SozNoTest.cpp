@@ -1,7 +1,4 @@
-// A contract's number: the find dialog (what it lists for a series and a
-// number, what it refuses, what it hands back in BulunanSozlesmeID) and the
-// renumbering (what moves, what is refused, and that a failure halfway
-// leaves every table as it was).
+// A contract's number: the find dialog and the renumbering.
 
 #include <QKeyEvent>
 #include <memory>
@@ -35,7 +32,7 @@ class SozBulTest : public test::SozlesEkran {
     Isle();
     return d;
   }
-  // Searches; the items of the list then, text and the id each carries.
+  // Searches; the items listed then, with the id each carries.
   static QString Ara(frmSozBul& d, const char* seri, const char* no) {
     test::Yaz(d.txtSeri, QString::fromUtf8(seri));
     test::Yaz(d.txtSozlesmeNo, QString::fromUtf8(no));
@@ -49,11 +46,9 @@ class SozBulTest : public test::SozlesEkran {
 
 TEST_F(SozBulTest, SeriVeNumarayaGoreListelerReddeder) {
   auto d = BulAc();
-  // The series of new contracts stands in its box.
   EXPECT_EQ(d->windowTitle() + '|' + Metinler({d->txtSeri, d->OKButton, d->CancelButton}),
             "Sözleşme Ara|A|Ara|Vazgeç");
-  // Without a series every series is searched; an apostrophe is just a
-  // character. No hit: an empty list and no message. A refusal keeps the list.
+  // Without a series every series is searched. A refusal keeps the list.
   const std::tuple<const char*, const char*, const char*, const char*> aramalar[] = {
       {"A", "7", "05.01.2024 - 7 #11,01.03.2024 - 7 #14", ""},
       {"B", "007", "10.02.2024 - 7 #12", ""},
@@ -87,12 +82,10 @@ TEST_F(SozBulTest, CiftTiklamaSecerVazgecSifirVerir) {
   Isle();
   EXPECT_EQ(BulunanSozlesmeID, 12);
   EXPECT_FALSE(d->isVisible());
-  // The close box keeps what the search before found.
   d = BulAc();
   Ara(*d, "A", "8");
   d->close();
   EXPECT_EQ(BulunanSozlesmeID, 12);
-  // "Vazgeç" and Esc give 0.
   d = BulAc();
   test::Tikla(d->CancelButton);
   EXPECT_EQ(BulunanSozlesmeID, 0);
@@ -129,8 +122,7 @@ class NoDegisTest : public test::SozlesEkran {
   }
   frmNoDegis* f_ = nullptr;
 
-  // Series and number of every row of the three tables (Sozlesme, Detay,
-  // Fatura), keyed by the row.
+  // Series and number of every row of Sozlesme, SozlesmeDetay and Fatura.
   static QString Numaralar() {
     return Tablo(
         "SELECT group_concat(x, ', ') FROM (SELECT x FROM ("
@@ -139,7 +131,6 @@ class NoDegisTest : public test::SozlesEkran {
         "FROM SozlesmeDetay UNION ALL SELECT 'F' || FaturaNo || ': ' || SozlesmeSeri || ' ' || "
         "SozlesmeNo FROM Fatura) ORDER BY x)");
   }
-  // Types the four boxes, presses the button; the messages it gave.
   QString Degistir(const char* eskiSeri, const char* eski, const char* yeniSeri, const char* yeni) {
     test::Yaz(f_->txtEskiSeri, QString::fromUtf8(eskiSeri));
     test::Yaz(f_->txtEski, QString::fromUtf8(eski));
@@ -155,9 +146,7 @@ const QString kTamam = "Bilgi Mesaj: İşlem Başarıyla Sonuçlandı";
 
 TEST_F(NoDegisTest, SozlesmeSatirlariVeFaturasiYeniNumarayaGecer) {
   ASSERT_EQ(Numaralar(), kBaslangic);
-  // The series changes and the number stays: a valid change. Leading zeros
-  // and blanks around the number don't matter. The dialog stays open with
-  // what was typed, for the next change.
+  // The series alone changes; blanks and leading zeros don't matter; the dialog stays.
   EXPECT_EQ(Degistir("A", " 007", "B", "7"), kTamam);
   EXPECT_EQ(Numaralar(), "D1: B 7, D2: B 7, D3: A 8, F1: B 7, F2: A 8, S1: B 7, S2: A 8");
   EXPECT_TRUE(f_->isVisible());

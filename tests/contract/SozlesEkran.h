@@ -143,6 +143,11 @@ class SozlesEkran : public Ortam {
     Isle();
     return true;
   }
+  // A press, and the messages it gave.
+  QString Basinca(QPushButton* dugme) {
+    EXPECT_TRUE(Bas(dugme)) << dugme->objectName().toStdString();
+    return Kutular();
+  }
   // A double click on a row of a lines grid, as the mouse gives it.
   template <class T>
   static void CiftTikla(T* f, int satir, const char* alan = "Meblag") {
