@@ -93,30 +93,29 @@ class SozlesEkran : public Ortam {
         {id, kesideci, cekNo, vade, vade, gun, meblag, id});
   }
 
-  // A screen in either mode, shown, loaded and active, open until the test
-  // ends or another one is opened here.
+  // A screen shown, loaded and active.
   template <class T>
-  T* Pencere(bool musteriBazinda = false) {
-    Genel::MusteriBazinda = musteriBazinda;
-    pencere_.reset();
-    auto* f = new T;
-    pencere_.reset(f);
+  static T* Hazirla(T* f) {
     f->show();
     QApplication::setActiveWindow(f);
     f->Form_Load();
     Isle();
     return f;
   }
+  // A screen in either mode, open until the test ends or another one is
+  // opened here; the contract screen apart, as others open over it.
+  template <class T>
+  T* Pencere(bool musteriBazinda = false) {
+    Genel::MusteriBazinda = musteriBazinda;
+    pencere_.reset();
+    pencere_.reset(new T);
+    return Hazirla(static_cast<T*>(pencere_.get()));
+  }
   std::unique_ptr<QWidget> pencere_;
-  // The contract screen, apart: other screens open over it.
   frmSozles* Ac(bool musteriBazinda) {
     Genel::MusteriBazinda = musteriBazinda;
     ekran_ = std::make_unique<frmSozles>();
-    ekran_->show();
-    QApplication::setActiveWindow(ekran_.get());
-    ekran_->Form_Load();
-    Isle();
-    return ekran_.get();
+    return Hazirla(ekran_.get());
   }
   std::unique_ptr<frmSozles> ekran_;
 
