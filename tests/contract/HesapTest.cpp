@@ -107,16 +107,22 @@ TEST_F(Hesap, UcKagitMasrafKagitBasinaVeBordro) {
   db::Kayitlar rs = r.kayitlar;
   for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext()) {
     faiz += rs.Fields("Faiz").toDouble();
-    satirlar << rs.Metin("Musteri") + '|' + rs.Metin("Vadesi") + '|' + rs.Metin("Gunu");
-    for (const char* alan :
-         {"Faiz", "Meblag", "Odenecek", "BMVergisi", "TahsilMasrafi", "KomisyonTutar"})
-      satirlar.last() += '|' + QString::number(rs.Fields(alan).toDouble(), 'f', 2);
+    QStringList alanlar;
+    for (const char* alan : {"Musteri", "Vadesi", "Gunu", "Faiz", "Meblag", "Odenecek", "BMVergisi",
+                             "TahsilMasrafi", "KomisyonTutar"})
+      alanlar << (QByteArray("Faiz Odenecek BMVergisi").contains(alan)
+                      ? QString::number(rs.Fields(alan).toDouble(), 'f', 6)
+                      : rs.Metin(alan));
+    satirlar << alanlar.join('|');
   }
   EXPECT_EQ(satirlar.join('\n'),
-            "ALİ YILMAZ|2005-03-20|19|95.00|3000.00|2905.00|13.55|30.00|0.00\n"
-            "ALİ YILMAZ|2005-04-04|30|50.00|1000.00|950.00|13.55|30.00|0.00\n"
-            "ALİ YILMAZ|2005-05-03|63|126.00|1200.00|1074.00|13.55|30.00|0.00");
+            "ALİ YILMAZ|2005-03-20|19|95.000000|3000|2905.000000|13.550000|30|0\n"
+            "ALİ YILMAZ|2005-04-04|30|50.000000|1000|950.000000|13.550000|30|0\n"
+            "ALİ YILMAZ|2005-05-03|63|126.000000|1200|1074.000000|13.550000|30|0");
   EXPECT_EQ(faiz, 271.0);
+  EXPECT_EQ(Basliklar(r),
+            "Müşteri:   ALİ YILMAZ|Tarih: 04.03.2005|Sözleşme No: Hesaplama|Faiz Oranı:   5|"
+            "Alınan Belgeler:|Tarih|Gün|Faiz|Tutar");
   const QString pdf = test::PdfSatirlari(r);
   p->close();
   if (pdf.isNull()) GTEST_SKIP() << "pdftotext is not installed";
