@@ -1,20 +1,41 @@
 #pragma once
-// What the contract screen tests share: customer 12 (ALİ YILMAZ), contracts
-// and lines put straight into the tables, the screen opened in either mode, a
-// clerk's hands (typing, picking, pressing), and what the screen, the tables
-// and the message boxes hold, each as one text to compare at once.
+// What the contract tests share: customer 12 (ALİ YILMAZ), contracts and lines
+// put straight into the tables, the screens opened, a clerk's hands, and what
+// the screens, the tables and the printed pages hold, each as one text.
 
 #include <QApplication>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QtTest/QTest>
 #include <memory>
 
 #include "contract/frmSozles.h"
 #include "core/Ekran.h"
 #include "core/Genel.h"
+#include "core/Rapor.h"
 #include "db/Kayitlar.h"
 #include "tests/support/Ortam.h"
 
 namespace test {
+
+// The text of a report's PDF, its lines with blanks made one; a null string
+// when pdftotext is not installed.
+inline QString PdfSatirlari(const rapor::Rapor& r) {
+  QTemporaryDir dizin;
+  const QString yol = dizin.filePath(QStringLiteral("rapor.pdf"));
+  EXPECT_TRUE(rapor::PdfYaz(r, yol));
+  const QString arac = QStandardPaths::findExecutable(QStringLiteral("pdftotext"));
+  if (arac.isEmpty()) return QString();
+  QProcess p;
+  p.start(arac, {"-layout", "-enc", "UTF-8", yol, "-"});
+  EXPECT_TRUE(p.waitForFinished(30000));
+  EXPECT_EQ(p.exitCode(), 0) << p.readAllStandardError().toStdString();
+  QStringList l;
+  for (const QString& s : QString::fromUtf8(p.readAllStandardOutput()).split('\n'))
+    if (!s.simplified().isEmpty()) l << s.simplified();
+  return l.join('\n');
+}
 
 class SozlesEkran : public Ortam {
  protected:
@@ -24,11 +45,28 @@ class SozlesEkran : public Ortam {
     ekran::BekleAnlik(true);
     Musteri(12, "YILMAZ", "ALİ");
   }
+  void TearDown() override {
+    pencere_.reset();
+    ekran_.reset();
+    Genel::SadeceGoster = false;
+    Ortam::TearDown();
+  }
 
   static void Calistir(const QString& sql, const QVariantList& deger = {}) {
     Genel::Baglanti.Calistir(sql, deger);
   }
-
+  // The rows of a query: a line each, the fields joined by "|", Null as "NULL".
+  static QString Tablo(const QString& sql) {
+    db::Kayitlar rs = Genel::Baglanti.Sorgu(sql);
+    QStringList satirlar;
+    for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext()) {
+      QStringList alanlar;
+      for (int i = 0; i < rs.AlanSayisi(); ++i)
+        alanlar << (db::NullMu(rs.Fields(i)) ? QStringLiteral("NULL") : rs.Fields(i).toString());
+      satirlar << alanlar.join('|');
+    }
+    return satirlar.join('\n');
+  }
   // A natural person: MusteriQry names him "Adi Soyadi".
   static void Musteri(qint64 no, const QString& soyadi, const QString& adi) {
     Calistir(
@@ -36,7 +74,6 @@ class SozlesEkran : public Ortam {
         "VALUES (?, ?, ?, 1, 'Atatürk Cad. 5', 'Çankaya', 'Ankara')",
         {no, soyadi, adi});
   }
-
   static void Sozlesme(qint32 id, qint32 no, qint64 musteri, const QString& tarih,
                        const QVariant& faizOran = 5, const QVariant& ilaveGun = 3,
                        const QVariant& hesapla = 1) {
@@ -46,7 +83,6 @@ class SozlesEkran : public Ortam {
         "VALUES (?, 'AB', ?, ?, ?, 0, ?, 2, 1, 0, '0', ?, 'TRL', ?)",
         {id, no, musteri, tarih, faizOran, ilaveGun, hesapla});
   }
-
   static void Satir(qint32 id, const QString& vade, double meblag, int gun = 0,
                     const QString& cekNo = "100", const QString& kesideci = "MEHMET KAYA") {
     Calistir(
@@ -57,19 +93,29 @@ class SozlesEkran : public Ortam {
         {id, kesideci, cekNo, vade, vade, gun, meblag, id});
   }
 
-  // The screen, open until the test ends.
+  // A screen shown, loaded and active.
+  template <class T>
+  static T* Hazirla(T* f) {
+    f->show();
+    QApplication::setActiveWindow(f);
+    f->Form_Load();
+    Isle();
+    return f;
+  }
+  // A screen in either mode, open until the test ends or another one is
+  // opened here; the contract screen apart, as others open over it.
+  template <class T>
+  T* Pencere(bool musteriBazinda = false) {
+    Genel::MusteriBazinda = musteriBazinda;
+    pencere_.reset();
+    pencere_.reset(new T);
+    return Hazirla(static_cast<T*>(pencere_.get()));
+  }
+  std::unique_ptr<QWidget> pencere_;
   frmSozles* Ac(bool musteriBazinda) {
     Genel::MusteriBazinda = musteriBazinda;
     ekran_ = std::make_unique<frmSozles>();
-    ekran_->show();
-    QApplication::setActiveWindow(ekran_.get());
-    ekran_->Form_Load();
-    Isle();
-    return ekran_.get();
-  }
-  void TearDown() override {
-    ekran_.reset();
-    Ortam::TearDown();
+    return Hazirla(ekran_.get());
   }
   std::unique_ptr<frmSozles> ekran_;
 
@@ -86,7 +132,6 @@ class SozlesEkran : public Ortam {
       if (!liste->isEditable()) emit liste->activated(liste->currentIndex());
     }
   }
-
   // A click: the focus moves to the button first, and a field whose check
   // fails keeps it, and the click is lost.
   static bool Bas(QPushButton* dugme) {
@@ -96,6 +141,19 @@ class SozlesEkran : public Ortam {
     dugme->click();
     Isle();
     return true;
+  }
+  // A press, and the messages it gave.
+  QString Basinca(QPushButton* dugme) {
+    EXPECT_TRUE(Bas(dugme)) << dugme->objectName().toStdString();
+    return Kutular();
+  }
+  // A double click on a row of a lines grid, as the mouse gives it.
+  template <class T>
+  static void CiftTikla(T* f, int satir, const char* alan = "Meblag") {
+    const QModelIndex i = f->dGridDetay->model()->index(satir, f->rsDetay.AlanNo(alan));
+    QTest::mouseDClick(f->dGridDetay->viewport(), Qt::LeftButton, {},
+                       f->dGridDetay->visualRect(i).center());
+    Isle();
   }
 
   // The line entry, in its order, and a line typed into it; a null drawer is
@@ -115,34 +173,20 @@ class SozlesEkran : public Ortam {
     return Bas(f->cmdDetayEkle);
   }
 
-  // The rows of a query: a line each, the fields joined by "|", Null as "NULL".
-  static QString Tablo(const QString& sql) {
-    db::Kayitlar rs = Genel::Baglanti.Sorgu(sql);
-    QStringList satirlar;
-    for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext()) {
-      QStringList alanlar;
-      for (int i = 0; i < rs.AlanSayisi(); ++i)
-        alanlar << (db::NullMu(rs.Fields(i)) ? QStringLiteral("NULL") : rs.Fields(i).toString());
-      satirlar << alanlar.join('|');
-    }
-    return satirlar.join('\n');
-  }
-
   // The stored lines in their order.
   static QString Satirlar() {
     return Tablo(
         "SELECT SozlesmeNo, Tip, Kesideci, Banka, Sube, HesapNo, CekNo, Vadesi, "
         "Odenmesi, Gun, Meblag FROM SozlesmeDetay ORDER BY GirisNo");
   }
-
-  // What the grid shows under a field of the lines' set, row after row.
-  static QString Sutun(frmSozles* f, const QString& alan) {
+  // What a lines grid shows under a field, row after row.
+  template <class T>
+  static QString Sutun(T* f, const QString& alan) {
     QStringList l;
     for (int i = 0; i < f->rsDetay.RecordCount(); ++i)
       l << f->dGridDetay->Model()->Metin(i, f->rsDetay.AlanNo(alan));
     return l.join('|');
   }
-
   // The texts of fields, lists and labels.
   static QString Metinler(const QList<QWidget*>& alanlar) {
     QStringList l;
@@ -156,7 +200,6 @@ class SozlesEkran : public Ortam {
   }
   static QString Kayit(frmSozles* f) { return Metinler({f->txtSozlesmeNo, f->lblToplam}); }
   static QString Giris(frmSozles* f) { return Metinler(GirisAlanlari(f)); }
-
   // The commands the clerk can use, in a fixed order.
   static QString Etkin(frmSozles* f) {
     QStringList adlar;
@@ -166,6 +209,12 @@ class SozlesEkran : public Ortam {
              f->txtTarih})
       if (w->isEnabled()) adlar << w->objectName();
     return adlar.join(' ');
+  }
+  // The texts of a report's page header.
+  static QString Basliklar(const rapor::Rapor& r) {
+    QStringList l;
+    for (const rapor::Yazi& y : r.sayfaBasligi.yazilar) l << y.metin;
+    return l.join('|');
   }
 };
 
