@@ -149,18 +149,6 @@ TEST_F(MaliyeDisk, MotorHatasindaEskiDosyaKalir) {
   EXPECT_THROW(aktarim::Hazirla(Genel::Baglanti, Istek(xml)), aktarim::DosyaHatasi);
 }
 
-TEST_F(MaliyeDisk, HataYoksaEskiHataListesiDokunulmaz) {
-  QTemporaryDir d;
-  const QString liste = QDir(d.path()).filePath("HataliKayit.txt");
-  Yaz(liste, "önceki liste");
-  Genel::Baglanti.Calistir("UPDATE Firma SET IlKod = 6");
-  const aktarim::Sonuc s = aktarim::Hazirla(Genel::Baglanti, Istek(d.path()));
-  EXPECT_TRUE(s.hatalar.isEmpty());
-  EXPECT_EQ(Oku(liste), "önceki liste");
-  EXPECT_EQ(s.kayitToplam, 0);
-  EXPECT_EQ(s.ozet, "Ödünç Tutar : 0,00\r\nTahsil Tutar:  0,00");
-}
-
 TEST_F(MaliyeDisk, KontrolListesiSekmeliTumSutunlar) {
   Genel::Baglanti.Calistir(
       "INSERT INTO Musteri(MusteriNo, VergiKimlikNo, Soyadi, Adi, IlKod, Uyruk) "

@@ -198,8 +198,13 @@ TEST_F(MaliyeEkran, CalistirmaOzetKontrolListesiVeCsv) {
   EXPECT_EQ(f->rsKontrol.AbsolutePosition(), 1);
 }
 
+// A period without rows: no grid, the file opened all the same, and no fault
+// list, the last run's left as it was.
 TEST_F(MaliyeEkran, BosDonemGridGizliDosyaYineAcilir) {
   Veri();
+  QFile liste(Dosya("HataliKayit.txt"));
+  ASSERT_TRUE(liste.open(QIODevice::WriteOnly) && liste.write("önceki liste") > 0);
+  liste.close();
   auto* f = Ac();
   Donem(f, 6, 2005, 6, 2005);
   Bas(f->cmdHazirla);
@@ -209,31 +214,9 @@ TEST_F(MaliyeEkran, BosDonemGridGizliDosyaYineAcilir) {
   EXPECT_FALSE(f->DataGrid1->isVisible());
   EXPECT_FALSE(f->cmdCSV->isVisible());
   EXPECT_EQ(acilan_.size(), 1);
-  EXPECT_EQ(Dosyalar(), QStringList{"Velmora.xml"});
-}
-
-TEST_F(MaliyeEkran, CalisirkenIkinciBasisYokSayilir) {
-  Veri();
-  auto* f = Ac();
-  Donem(f, 1, 2005, 3, 2005);
-  // While the rate warning stands, the clerk presses the button again.
-  QStringList basliklar;
-  mesaj::CevaplayiciKur([&](const mesaj::Kayit& k) {
-    basliklar << k.baslik;
-    if (k.baslik == "UYARI") {
-      EXPECT_FALSE(f->cmdHazirla->isEnabled());
-      QTest::mouseClick(f->cmdHazirla, Qt::LeftButton);
-      f->cmdHazirla_Click();
-      // Nor can the screen be closed under the run.
-      QTest::mouseClick(f->cmdExit, Qt::LeftButton);
-      EXPECT_TRUE(f->isVisible());
-    }
-    return mesaj::Dugme::Tamam;
-  });
-  Bas(f->cmdHazirla);
-  EXPECT_EQ(basliklar.count("DİKKAT"), 1);
-  EXPECT_EQ(basliklar.count("UYARI"), 1);
-  EXPECT_TRUE(f->cmdHazirla->isEnabled());
+  EXPECT_EQ(Dosyalar(), (QStringList{"HataliKayit.txt", "Velmora.xml"}));
+  ASSERT_TRUE(liste.open(QIODevice::ReadOnly));
+  EXPECT_EQ(liste.readAll(), "önceki liste");
 }
 
 TEST_F(MaliyeEkran, YazilamayanKlasorMesajVerir) {
