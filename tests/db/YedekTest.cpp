@@ -53,6 +53,7 @@ class Yedek : public test::Ortam {
     ASSERT_TRUE(b().Acik());
     b().Calistir("INSERT INTO Kur(Tarih, Doviz, Kur) VALUES ('2026-01-01', 'USD', 1)");
     EXPECT_EQ(b().Deger("SELECT count(*) FROM Kur").toInt(), 1);
+    b().Calistir("DELETE FROM Kur");
   }
 };
 
@@ -210,7 +211,6 @@ TEST_F(Yedek, BakimBasarisizOlursaEskiDosyaKalir) {
     EXPECT_EQ(Dosyalar(), d.kalanlar);
     d.kaldir();
     Kullanilabilir();
-    b().Calistir("DELETE FROM Kur");
   }
   // With the obstacles gone it works.
   db::Sikistir(b(), kGun);
@@ -281,7 +281,6 @@ TEST_F(Yedek, BozukYedekReddedilir) {
     EXPECT_EQ(Dosyalar(), (QStringList{"aday.db", "velmora_17112026.db"}));
     EXPECT_EQ(Icerik(aday), d.icerik);
     Kullanilabilir();
-    b().Calistir("DELETE FROM Kur");
   }
 }
 
