@@ -16,6 +16,7 @@
 #include <QDir>
 #include <QFile>
 #include <QMap>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include "core/Genel.h"
@@ -24,6 +25,7 @@
 
 namespace {
 
+// The settings, and each other section's lines.
 struct Durum {
   QMap<QString, QString> ayar;
   QMap<QString, QStringList> bolum;
@@ -32,23 +34,17 @@ struct Durum {
 Durum Oku(const QString& yol) {
   QFile f(yol);
   Durum d;
-  if (!f.open(QIODevice::ReadOnly)) return d;
   QString ad;
-  const QStringList satirlar = QString::fromUtf8(f.readAll()).split(QLatin1Char('\n'));
-  for (QString s : satirlar) {
-    if (s.endsWith(QLatin1Char('\r'))) s.chop(1);
-    if (s.startsWith(QLatin1Char('[')) && s.endsWith(QLatin1Char(']'))) {
-      ad = s.mid(1, s.size() - 2);
-      d.bolum[ad];
-      continue;
+  for (QString s :
+       f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()).split('\n') : QStringList()) {
+    if (s.endsWith('\r')) s.chop(1);
+    if (s.startsWith('[') && s.endsWith(']')) {
+      d.bolum[ad = s.mid(1, s.size() - 2)];
+    } else if (ad == "ayar" && s.indexOf('=') > 0) {
+      d.ayar[s.section('=', 0, 0).trimmed()] = s.section('=', 1).trimmed();
+    } else if (!ad.isEmpty() && ad != "ayar") {  // not the description
+      d.bolum[ad] << s.replace("␠", " ");
     }
-    if (ad.isEmpty()) continue;  // the description
-    if (ad == QLatin1String("ayar")) {
-      const int i = s.indexOf(QLatin1Char('='));
-      if (i > 0) d.ayar[s.left(i).trimmed()] = s.mid(i + 1).trimmed();
-      continue;
-    }
-    d.bolum[ad] << s.replace(QStringLiteral("␠"), QStringLiteral(" "));
   }
   // The blank lines that close a section are no part of it.
   for (auto& b : d.bolum)
@@ -75,11 +71,6 @@ std::string IlkFark(const QByteArray& beklenen, const QByteArray& gercek) {
   return "aynı";
 }
 
-QDate Ay(const QString& aaYyyy, bool son) {
-  const int ay = aaYyyy.left(2).toInt(), yil = aaYyyy.mid(3).toInt();
-  return son ? aktarim::DonemSonu(ay, yil) : aktarim::DonemBasi(ay, yil);
-}
-
 class Aktarim : public test::Ortam, public ::testing::WithParamInterface<QString> {};
 
 TEST_P(Aktarim, Durum) {
@@ -90,8 +81,9 @@ TEST_P(Aktarim, Durum) {
 
   QTemporaryDir klasor;
   aktarim::Istek istek;
-  istek.bas = Ay(d.ayar.value("bas"), false);
-  istek.son = Ay(d.ayar.value("son"), true);
+  const QString bas = d.ayar.value("bas"), son = d.ayar.value("son");
+  istek.bas = aktarim::DonemBasi(bas.left(2).toInt(), bas.mid(3).toInt());
+  istek.son = aktarim::DonemSonu(son.left(2).toInt(), son.mid(3).toInt());
   istek.limit = aktarim::LimitKurali(Genel::SayiOku(d.ayar.value("limit", "10000")));
   istek.bugun = Genel::TarihOku(d.ayar.value("bugun"));
   istek.klasor = klasor.path();
@@ -117,25 +109,20 @@ TEST_P(Aktarim, Durum) {
   } else {
     EXPECT_FALSE(hata.exists()) << "hata listesi boş olmalı";
   }
-  if (d.bolum.contains("ozet"))
-    EXPECT_EQ(s.ozet, d.bolum.value("ozet").join(QStringLiteral("\r\n")));
+  if (d.bolum.contains("ozet")) {
+    EXPECT_EQ(s.ozet, d.bolum.value("ozet").join("\r\n"));
+  }
   EXPECT_EQ(s.kurUyarilari, d.bolum.value("kur"));
   EXPECT_EQ(s.semaHatasi, "") << "şemaya uymuyor";
   EXPECT_EQ(sonIlerleme, s.yapilan);
   EXPECT_EQ(s.yapilan, s.kayitToplam);
 }
 
-QStringList Durumlar() {
-  return QDir(QStringLiteral(VELMORA_DURUMLAR)).entryList({"*.txt"}, QDir::Files, QDir::Name);
-}
-
-std::string Ad(const ::testing::TestParamInfo<QString>& i) {
-  std::string s = i.param.chopped(4).toStdString();
-  for (char& c : s)
-    if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
-  return s;
-}
-
-INSTANTIATE_TEST_SUITE_P(Dosyalar, Aktarim, ::testing::ValuesIn(Durumlar()), Ad);
+INSTANTIATE_TEST_SUITE_P(
+    Dosyalar, Aktarim,
+    ::testing::ValuesIn(QDir(VELMORA_DURUMLAR).entryList({"*.txt"}, QDir::Files, QDir::Name)),
+    [](const ::testing::TestParamInfo<QString>& i) {
+      return i.param.chopped(4).replace(QRegularExpression("[^A-Za-z0-9]"), "_").toStdString();
+    });
 
 }  // namespace

@@ -28,12 +28,9 @@ TEST(MaliyeKurallari, LimitKurali) {
 }
 
 TEST(MaliyeKurallari, DonemSonuSubatHep28) {
-  EXPECT_EQ(aktarim::DonemSonu(2, 2008), QDate(2008, 2, 28));
-  EXPECT_EQ(aktarim::DonemSonu(2, 2005), QDate(2005, 2, 28));
-  EXPECT_EQ(aktarim::DonemSonu(4, 2005), QDate(2005, 4, 30));
-  EXPECT_EQ(aktarim::DonemSonu(11, 2005), QDate(2005, 11, 30));
-  EXPECT_EQ(aktarim::DonemSonu(12, 2004), QDate(2004, 12, 31));
-  EXPECT_EQ(aktarim::DonemSonu(7, 2005), QDate(2005, 7, 31));
+  const QDate sonlar[] = {{2008, 2, 28},  {2005, 2, 28},  {2005, 4, 30},
+                          {2005, 11, 30}, {2004, 12, 31}, {2005, 7, 31}};
+  for (const QDate& d : sonlar) EXPECT_EQ(aktarim::DonemSonu(d.month(), d.year()), d);
   EXPECT_EQ(aktarim::DonemBasi(3, 2005), QDate(2005, 3, 1));
 }
 
@@ -73,17 +70,15 @@ TEST(MaliyeKurallari, SozNoVeTutar) {
     double deger;
     int basamak;
     const char* metin;
-  } durumlar[] = {
-      {10, 2, "10.00"},
-      {10000000, 0, "10000000"},
-      {1234567.5, 2, "1234567.50"},
-      {0.5, 0, "1"},
-      {-0.004, 2, "0.00"},
-      {-1.005, 2, "-1.01"},
-      {1234567500000, 0, "1234567500000"},
-      {0.125, 2, "0.13"},
-      {2.675, 2, "2.68"},
-  };
+  } durumlar[] = {{10, 2, "10.00"},
+                  {10000000, 0, "10000000"},
+                  {1234567.5, 2, "1234567.50"},
+                  {0.5, 0, "1"},
+                  {-0.004, 2, "0.00"},
+                  {-1.005, 2, "-1.01"},
+                  {1234567500000, 0, "1234567500000"},
+                  {0.125, 2, "0.13"},
+                  {2.675, 2, "2.68"}};
   for (const auto& d : durumlar)
     EXPECT_EQ(aktarim::TutarYaz(d.deger, d.basamak), d.metin) << d.deger;
 }
@@ -150,26 +145,8 @@ TEST_F(MaliyeDisk, MotorHatasindaEskiDosyaKalir) {
   EXPECT_THROW(aktarim::Hazirla(Genel::Baglanti, Istek(d.path())), db::Hata);
   EXPECT_EQ(Oku(xml), "eski tam dosya");
   EXPECT_EQ(QDir(d.path()).entryList(QDir::Files), QStringList{"Velmora.xml"});
-}
-
-TEST_F(MaliyeDisk, YazilamayanKlasorDosyaHatasiVerir) {
-  QTemporaryDir d;
-  const QString dosya = QDir(d.path()).filePath("dosya");
-  Yaz(dosya, "x");
   // A folder that is a file can't hold the transfer file.
-  EXPECT_THROW(aktarim::Hazirla(Genel::Baglanti, Istek(dosya)), aktarim::DosyaHatasi);
-}
-
-TEST_F(MaliyeDisk, HataYoksaEskiHataListesiDokunulmaz) {
-  QTemporaryDir d;
-  const QString liste = QDir(d.path()).filePath("HataliKayit.txt");
-  Yaz(liste, "önceki liste");
-  Genel::Baglanti.Calistir("UPDATE Firma SET IlKod = 6");
-  const aktarim::Sonuc s = aktarim::Hazirla(Genel::Baglanti, Istek(d.path()));
-  EXPECT_TRUE(s.hatalar.isEmpty());
-  EXPECT_EQ(Oku(liste), "önceki liste");
-  EXPECT_EQ(s.kayitToplam, 0);
-  EXPECT_EQ(s.ozet, "Ödünç Tutar : 0,00\r\nTahsil Tutar:  0,00");
+  EXPECT_THROW(aktarim::Hazirla(Genel::Baglanti, Istek(xml)), aktarim::DosyaHatasi);
 }
 
 TEST_F(MaliyeDisk, KontrolListesiSekmeliTumSutunlar) {
@@ -196,33 +173,7 @@ TEST_F(MaliyeDisk, KontrolListesiSekmeliTumSutunlar) {
   EXPECT_EQ(Oku(yol), beklenen);
 }
 
-TEST_F(MaliyeDisk, SemayaUymayanDosyaSaklanirIlkHataSoylenir) {
-  // Amounts too long for their elements: in the head, and in a row far
-  // behind the first piece the check reads.
-  Genel::Baglanti.Calistir(
-      "UPDATE Firma SET IlKod = 6;"
-      "INSERT INTO Musteri(MusteriNo, VergiKimlikNo, Soyadi, Adi, IlKod, Uyruk) "
-      "VALUES (4, '1234567890', 'KAYA', 'ALİ', 6, 2);"
-      "INSERT INTO Sozlesme(SozlesmeID, SozlesmeSeri, SozlesmeNo, MusteriNo, Tarih, Tutar, "
-      "FaizTutar, Doviz) VALUES (1, 'A', 1, 4, '2005-02-03', 20000, 10, 'TRL');"
-      "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000)"
-      " INSERT INTO SozlesmeDetay(SozlesmeID, Vadesi, Odenmesi, Meblag, Doviz)"
-      " SELECT 1, '2005-05-01', '2005-03-01', 10000 + i, 'TRL' FROM n;"
-      "INSERT INTO SozlesmeDetay(SozlesmeID, Vadesi, Odenmesi, Meblag, Doviz)"
-      " VALUES (1, '2005-05-01', '2005-03-02', 1e17, 'TRL')");
-  QTemporaryDir d;
-  aktarim::Sonuc s = aktarim::Hazirla(Genel::Baglanti, Istek(d.path()));
-  EXPECT_TRUE(s.semaHatasi.contains("tahtutartl")) << s.semaHatasi.toStdString();
-  EXPECT_EQ(s.semaHatasi, aktarim::SemayaUygunMu(s.dosya, aktarim::VaryantSec(2005)));
-  EXPECT_TRUE(Oku(s.dosya).contains("<gonkayitsayisi>3002</gonkayitsayisi>"));
-
-  Genel::Baglanti.Calistir("UPDATE Sozlesme SET Tutar = 1e17");
-  s = aktarim::Hazirla(Genel::Baglanti, Istek(d.path()));
-  EXPECT_TRUE(s.semaHatasi.startsWith("satır 18:")) << s.semaHatasi.toStdString();
-  EXPECT_TRUE(s.semaHatasi.contains("odvertoplamtutar")) << s.semaHatasi.toStdString();
-}
-
-TEST_F(MaliyeDisk, SemaBozukDosyayiYakalar) {
+TEST_F(MaliyeDisk, SemaBozukDosyayiYakalarIlkHatayiSoyler) {
   Genel::Baglanti.Calistir(
       "UPDATE Firma SET IlKod = 6;"
       "INSERT INTO Musteri(MusteriNo, VergiKimlikNo, Soyadi, Adi, IlKod, Uyruk) "
@@ -230,7 +181,7 @@ TEST_F(MaliyeDisk, SemaBozukDosyayiYakalar) {
       "INSERT INTO Sozlesme(SozlesmeID, SozlesmeSeri, SozlesmeNo, MusteriNo, Tarih, Tutar, "
       "FaizTutar, Doviz) VALUES (1, 'A', 7, 4, '2005-02-03', 12345.5, 10, 'TRL')");
   QTemporaryDir d;
-  const aktarim::Sonuc s = aktarim::Hazirla(Genel::Baglanti, Istek(d.path()));
+  aktarim::Sonuc s = aktarim::Hazirla(Genel::Baglanti, Istek(d.path()));
   ASSERT_EQ(s.semaHatasi, "");
   const QByteArray iyi = Oku(s.dosya);
   const aktarim::Varyant yeni = aktarim::VaryantSec(2005), eski = aktarim::VaryantSec(2004);
@@ -250,15 +201,31 @@ TEST_F(MaliyeDisk, SemaBozukDosyayiYakalar) {
       {"</subeadi>", "</subead>", "satır"},
       {"<soztar>20050203</soztar>", "<soztar>2005023</soztar>", "soztar"},
   };
+  const QString yol = QDir(d.path()).filePath("bozuk.xml");
   for (const auto& b : bozuk) {
     QByteArray metin = iyi;
     ASSERT_TRUE(metin.contains(b.once)) << b.once;
-    metin.replace(b.once, b.sonra);
-    const QString yol = QDir(d.path()).filePath("bozuk.xml");
-    Yaz(yol, metin);
+    Yaz(yol, metin.replace(b.once, b.sonra));
     const QString hata = aktarim::SemayaUygunMu(yol, yeni);
     EXPECT_TRUE(hata.contains(b.hata)) << b.sonra << " -> " << hata.toStdString();
   }
+
+  // Amounts too long for their elements, in a row far behind the first piece
+  // the check reads, then in the head: the file is kept, the first fault told.
+  Genel::Baglanti.Calistir(
+      "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000)"
+      " INSERT INTO SozlesmeDetay(SozlesmeID, Vadesi, Odenmesi, Meblag, Doviz)"
+      " SELECT 1, '2005-05-01', '2005-03-01', 10000 + i, 'TRL' FROM n;"
+      "INSERT INTO SozlesmeDetay(SozlesmeID, Vadesi, Odenmesi, Meblag, Doviz)"
+      " VALUES (1, '2005-05-01', '2005-03-02', 1e17, 'TRL')");
+  s = aktarim::Hazirla(Genel::Baglanti, Istek(d.path()));
+  EXPECT_TRUE(s.semaHatasi.contains("tahtutartl")) << s.semaHatasi.toStdString();
+  EXPECT_EQ(s.semaHatasi, aktarim::SemayaUygunMu(s.dosya, yeni));
+  EXPECT_TRUE(Oku(s.dosya).contains("<gonkayitsayisi>3002</gonkayitsayisi>"));
+  Genel::Baglanti.Calistir("UPDATE Sozlesme SET Tutar = 1e17");
+  s = aktarim::Hazirla(Genel::Baglanti, Istek(d.path()));
+  EXPECT_TRUE(s.semaHatasi.startsWith("satır 18:")) << s.semaHatasi.toStdString();
+  EXPECT_TRUE(s.semaHatasi.contains("odvertoplamtutar")) << s.semaHatasi.toStdString();
 }
 
 }  // namespace
