@@ -34,10 +34,14 @@ const char* const kSutunlar[] = {"Belge",     "Tutar", "TutarAdet", "Batak",
 // What the lines `satir` (an alias, or NEW/OLD of a line's trigger) of
 // `kaynak` (a FROM clause ending in a WHERE) add to their customer `musteri`
 // whose contract is dated `tarih`; `isaret` "-" takes them away instead.
+// `programda`: the statement runs only in this program, whose GunFarki counts
+// the days as the engine's expression does at a fraction of its cost.
 QString Katki(const QString& satir, const QString& musteri, const QString& tarih,
-              const QString& kaynak, const QString& isaret) {
+              const QString& kaynak, const QString& isaret, bool programda = false) {
   const QString tutar = CariTutar(satir + QStringLiteral(".Meblag"));
-  const QString fark = GunFarkiIfadesi(tarih, satir + QStringLiteral(".Vadesi"));
+  const QString vadesi = satir + QStringLiteral(".Vadesi");
+  const QString fark = programda ? QStringLiteral("GunFarki(%1, %2)").arg(tarih, vadesi)
+                                 : GunFarkiIfadesi(tarih, vadesi);
   const QString bos = satir + QStringLiteral(".Odenmesi IS NULL");
   const QStringList degerler = {
       QStringLiteral("count(*)"),
@@ -59,9 +63,8 @@ QString Katki(const QString& satir, const QString& musteri, const QString& tarih
   return QStringLiteral(
              "INSERT INTO MusteriCari (MusteriNo, %1) SELECT %2, %3 FROM %4 AND %2 IS NOT NULL "
              "GROUP BY %2 ON CONFLICT (MusteriNo) DO UPDATE SET %5;")
-      .arg(QString::fromLatin1("Belge, Tutar, TutarAdet, Batak, BatakAdet, Gun, GunAdet"),
-           musteri, secilen.join(QStringLiteral(", ")), kaynak,
-           guncelle.join(QStringLiteral(", ")));
+      .arg(QString::fromLatin1("Belge, Tutar, TutarAdet, Batak, BatakAdet, Gun, GunAdet"), musteri,
+           secilen.join(QStringLiteral(", ")), kaynak, guncelle.join(QStringLiteral(", ")));
 }
 
 // One line (NEW or OLD of a line's trigger), through its contract.
@@ -134,15 +137,15 @@ void CariOzetKur(Baglanti& b) {
   for (const Tetik& t : kTetikler)
     b.Calistir(QStringLiteral("DROP TRIGGER IF EXISTS %1").arg(QString::fromLatin1(t.ad)));
   b.Calistir(QStringLiteral("DROP TABLE IF EXISTS MusteriCari"));
-  b.Calistir(QStringLiteral(
-      "CREATE TABLE MusteriCari (MusteriNo INTEGER NOT NULL PRIMARY KEY, "
-      "Belge INTEGER NOT NULL, Tutar INTEGER NOT NULL, TutarAdet INTEGER NOT NULL, "
-      "Batak INTEGER NOT NULL, BatakAdet INTEGER NOT NULL, Gun INTEGER NOT NULL, "
-      "GunAdet INTEGER NOT NULL) WITHOUT ROWID"));
+  b.Calistir(
+      QStringLiteral("CREATE TABLE MusteriCari (MusteriNo INTEGER NOT NULL PRIMARY KEY, "
+                     "Belge INTEGER NOT NULL, Tutar INTEGER NOT NULL, TutarAdet INTEGER NOT NULL, "
+                     "Batak INTEGER NOT NULL, BatakAdet INTEGER NOT NULL, Gun INTEGER NOT NULL, "
+                     "GunAdet INTEGER NOT NULL) WITHOUT ROWID"));
   b.Calistir(Katki(QStringLiteral("L"), QStringLiteral("S.MusteriNo"), QStringLiteral("S.Tarih"),
                    QStringLiteral("Sozlesme S INNER JOIN SozlesmeDetay L "
                                   "ON L.SozlesmeID = S.SozlesmeID WHERE 1"),
-                   QString()));
+                   QString(), true));
   for (const Tetik& t : kTetikler)
     b.Calistir(QStringLiteral("CREATE TRIGGER %1 %2 BEGIN %3 END")
                    .arg(QString::fromLatin1(t.ad), QString::fromLatin1(t.olay), t.govde()));
