@@ -2,9 +2,12 @@
 // A clerk's keyboard: keys sent one by one to where the focus is, Turkish
 // letters too (QTest::keyClicks sends Latin-1 only).
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLineEdit>
+#include <QPointer>
 #include <QtTest/QTest>
 
 namespace test {
@@ -48,6 +51,37 @@ inline void Yaz(QLineEdit* kutu, const QString& metin) {
     QTest::keyClick(kutu, Qt::Key_Delete);
   else
     Tusla(kutu, metin);
+}
+
+// From a list the clerk cannot type into: the focus goes there and the first
+// letters of the entry (or all of it) are typed, as the list looks them up.
+// Each call is a look-up of its own: keys on the same list within the
+// keyboard interval would go on with the last look-up, so that much time
+// passes first, as it does for a clerk between two fields.
+inline void Sec(QComboBox* liste, const QString& basi) {
+  static QPointer<QComboBox> son;
+  static QElapsedTimer zaman;
+  if (son == liste && zaman.isValid() && zaman.elapsed() <= QApplication::keyboardInputInterval())
+    QTest::qWait(QApplication::keyboardInputInterval() - int(zaman.elapsed()) + 50);
+  liste->setFocus();
+  QApplication::processEvents();
+  Tusla(liste, basi);
+  QApplication::processEvents();
+  son = liste;
+  zaman.start();
+}
+
+// From a list's popup with the mouse: the list opens and the clerk clicks
+// the entry in row `satir`.
+inline void ListedenSec(QComboBox* liste, int satir) {
+  liste->setFocus();
+  liste->showPopup();
+  QApplication::processEvents();
+  QAbstractItemView* gorunum = liste->view();
+  const QRect yer = gorunum->visualRect(
+      gorunum->model()->index(satir, liste->modelColumn(), gorunum->rootIndex()));
+  QTest::mouseClick(gorunum->viewport(), Qt::LeftButton, Qt::NoModifier, yer.center());
+  QApplication::processEvents();
 }
 
 }  // namespace test
