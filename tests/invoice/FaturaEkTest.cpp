@@ -65,7 +65,7 @@ TEST_F(FaturaEk, BosBaslarHesaplarKaydeder) {
   Yaz(f->txtAciklama, QString());
   EXPECT_EQ(Kutular(), "Kritik Dikkat: Hatalı Tarih");
   EXPECT_EQ(QApplication::focusWidget(), f->txtTarih);
-  f->txtTarih->setText("10.03.2005");
+  Yaz(f->txtTarih, "10.03.2005");
   // The amount: rewritten as money when left, and Hesapla runs.
   Yaz(f->txtTutar, "1000");
   Yaz(f->txtMasraf, QString());

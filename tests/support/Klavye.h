@@ -6,8 +6,8 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QElapsedTimer>
+#include <QHash>
 #include <QLineEdit>
-#include <QPointer>
 #include <QtTest/QTest>
 
 namespace test {
@@ -55,20 +55,21 @@ inline void Yaz(QLineEdit* kutu, const QString& metin) {
 
 // From a list the clerk cannot type into: the focus goes there and the first
 // letters of the entry (or all of it) are typed, as the list looks them up.
-// Each call is a look-up of its own: keys on the same list within the
-// keyboard interval would go on with the last look-up, so that much time
-// passes first, as it does for a clerk between two fields.
+// Each call is a look-up of its own: keys on a list within the keyboard
+// interval of its last keys would go on with that look-up, so that much time
+// passes first, as it does for a clerk who went through other fields.
 inline void Sec(QComboBox* liste, const QString& basi) {
-  static QPointer<QComboBox> son;
-  static QElapsedTimer zaman;
-  if (son == liste && zaman.isValid() && zaman.elapsed() <= QApplication::keyboardInputInterval())
-    QTest::qWait(QApplication::keyboardInputInterval() - int(zaman.elapsed()) + 50);
+  static QElapsedTimer saat;
+  static QHash<const QComboBox*, qint64> sonTus;
+  if (!saat.isValid()) saat.start();
+  const int aralik = QApplication::keyboardInputInterval();
+  if (const auto o = sonTus.constFind(liste); o != sonTus.cend() && saat.elapsed() - *o <= aralik)
+    QTest::qWait(int(aralik - (saat.elapsed() - *o)) + 50);
   liste->setFocus();
   QApplication::processEvents();
   Tusla(liste, basi);
   QApplication::processEvents();
-  son = liste;
-  zaman.start();
+  sonTus.insert(liste, saat.elapsed());
 }
 
 // From a list's popup with the mouse: the list opens and the clerk clicks
