@@ -109,7 +109,7 @@ TEST_F(FaturaEk, SozlesmeFaturasininNumarasiniAlamaz) {
   EXPECT_EQ(Tablo("SELECT FaturaNo, SozlesmeID, Tutar FROM Fatura"), "3|1|40000");
   EXPECT_FALSE(f->cmdYazdir->isEnabled());
   // Without a date: the save's own message, without the engine's text.
-  f->txtTarih->clear();
+  Yaz(f->txtTarih, "");
   Yaz(f->txtFaturaNo, "4");
   ASSERT_TRUE(Bas(f->cmdSave));
   EXPECT_EQ(Kutular(),
