@@ -64,7 +64,14 @@ frmMusteri::frmMusteri(QWidget* ust)
   Kur();
 }
 
-frmMusteri::~frmMusteri() = default;
+frmMusteri::~frmMusteri() {
+  // Closing hides the lists only after this part of the screen is gone: a
+  // number or name left typed in one must not start its look-up then.
+  for (QComboBox* liste : {cmbNo, cmbAd}) {
+    liste->removeEventFilter(this);
+    liste->disconnect(this);
+  }
+}
 
 void frmMusteri::Kur() {
   // --- the search frame

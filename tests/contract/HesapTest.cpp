@@ -245,7 +245,7 @@ TEST_F(Hesap, KagitKontrolleriDegistirmeVeSilme) {
   EXPECT_EQ(Basinca(f->cmdDetayEkle), "Kritik Uyarı: Lütfen Vade Bilgisini Girin!!");
   EXPECT_EQ(QApplication::focusWidget(), f->txtVade);
   Gir(f->txtVade, "04.04.2005");
-  f->txtGun->clear();
+  Yaz(f->txtGun, "");
   EXPECT_EQ(Basinca(f->cmdDetayEkle), "Kritik Uyarı: Lütfen Meblağn bilgisini Girin!!");
   EXPECT_EQ(f->txtGun->text(), "0");
   Gir(f->txtMeblag, "1000");

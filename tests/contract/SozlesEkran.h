@@ -15,6 +15,7 @@
 #include "core/Genel.h"
 #include "core/Rapor.h"
 #include "db/Kayitlar.h"
+#include "tests/support/Klavye.h"
 #include "tests/support/Ortam.h"
 
 namespace test {
@@ -121,16 +122,20 @@ class SozlesEkran : public Ortam {
 
   // Into a field as a clerk types: the focus goes there first, so that the
   // field left behind runs its check; a disabled field takes nothing. A null
-  // text only visits the field; a list that takes no typing has it picked.
+  // text only visits the field; a list that takes no typing looks the typed
+  // letters up.
   static void Yaz(QWidget* alan, const QString& metin) {
     alan->setFocus();
     Isle();
     if (metin.isNull() || !alan->isEnabled()) return;
-    if (auto* kutu = qobject_cast<QLineEdit*>(alan)) kutu->setText(metin);
+    if (auto* kutu = qobject_cast<QLineEdit*>(alan)) test::Yaz(kutu, metin);
     if (auto* liste = qobject_cast<QComboBox*>(alan)) {
-      liste->setCurrentText(metin);
-      if (!liste->isEditable()) emit liste->activated(liste->currentIndex());
+      if (liste->isEditable())
+        test::ListeyeYaz(liste, metin, Qt::Key_unknown);
+      else
+        test::Sec(liste, metin);
     }
+    Isle();
   }
   // A click: the focus moves to the button first, and a field whose check
   // fails keeps it, and the click is lost.

@@ -302,8 +302,7 @@ TEST_F(Sozles, AlanKurallariVeUcDegerler) {
   ASSERT_TRUE(Bas(f->cmdEdit));
   Yaz(f->txtFaizOran, "1abc");
   Yaz(f->txtMeblag, "250000,01");
-  Yaz(f->txtGun, QString());
-  f->txtGun->clear();
+  Yaz(f->txtGun, "");
   Yaz(f->txtValor, "5");
   Yaz(f->txtTarih, QString());
   EXPECT_EQ(Metinler({f->txtFaizOran, f->txtMeblag, f->txtGun}), "1|0,25|0");
@@ -312,7 +311,7 @@ TEST_F(Sozles, AlanKurallariVeUcDegerler) {
   Yaz(f->txtGun, QString());
   EXPECT_EQ(Kutular(), "Kritik UYARI: Bir Miktar Girmelisiniz");
   EXPECT_EQ(QApplication::focusWidget(), f->txtMeblag);
-  f->txtMeblag->clear();
+  Yaz(f->txtMeblag, "");
   // Due before the contract date and 90 years ahead: the days of rule D (ilaveGun 6).
   Yaz(f->txtFaizOran, "5");
   ASSERT_TRUE(KalemGir(f, {.vade = "20.02.2005", .meblag = "1000"}));

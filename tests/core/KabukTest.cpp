@@ -15,6 +15,7 @@
 #include "core/frmIni.h"
 #include "core/frmMain.h"
 #include "db/Baglanti.h"
+#include "tests/support/Klavye.h"
 #include "tests/support/Ortam.h"
 
 namespace {
@@ -64,7 +65,8 @@ TEST_F(Kabuk, IlkAcilistaVeriTabaniOlusur) {
   EXPECT_TRUE(QFile::exists(Yol()));
   EXPECT_TRUE(Genel::Baglanti.Acik());
   EXPECT_EQ(ana->windowTitle(), QStringLiteral(" - YTL Velmora Bilgi İşlem Sistemi. V.2.3"));
-  EXPECT_EQ(Genel::Baglanti.Deger(QStringLiteral("SELECT count(*) FROM Il_Trafik_Kodu")).toInt(), 81);
+  EXPECT_EQ(Genel::Baglanti.Deger(QStringLiteral("SELECT count(*) FROM Il_Trafik_Kodu")).toInt(),
+            81);
   EXPECT_EQ(QFile::permissions(Yol()) & (QFileDevice::ReadOther | QFileDevice::ReadGroup), 0);
 }
 
@@ -72,7 +74,8 @@ TEST_F(Kabuk, FirmaKaydiBaslikVeGenelDegerler) {
   FirmaDoldur();
   auto ana = Baslat();
   EXPECT_TRUE(Mesajlar().isEmpty());
-  EXPECT_EQ(ana->windowTitle(), QStringLiteral("Kılıç Finans - YTL Velmora Bilgi İşlem Sistemi. V.2.3"));
+  EXPECT_EQ(ana->windowTitle(),
+            QStringLiteral("Kılıç Finans - YTL Velmora Bilgi İşlem Sistemi. V.2.3"));
   EXPECT_EQ(Genel::SozlesmeSeri, QStringLiteral("AB"));
   EXPECT_EQ(Genel::FaturaSeri, QStringLiteral("FT"));
   ASSERT_NE(ana->arka, nullptr);
@@ -108,11 +111,13 @@ TEST_F(Kabuk, KullanilamayanVeriTabaniDokunulmazKalir) {
        [](Kabuk&) { Genel::Baglanti.Calistir(QStringLiteral("DELETE FROM Firma")); }},
       {"firma tablosu yok",
        [](Kabuk&) { Genel::Baglanti.Calistir(QStringLiteral("DROP TABLE Firma")); }},
-      {"seri boş", [](Kabuk& k) {
+      {"seri boş",
+       [](Kabuk& k) {
          k.FirmaDoldur();
          Genel::Baglanti.Calistir(QStringLiteral("UPDATE Firma SET FaturaSeri = NULL"));
        }},
-      {"veri tabanı olmayan dosya", [](Kabuk& k) {
+      {"veri tabanı olmayan dosya",
+       [](Kabuk& k) {
          Genel::Baglanti.Kapat();
          QFile f(k.Yol());
          ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
@@ -249,12 +254,11 @@ TEST_F(Ayarlar, DigerYaziciVeDosyadakiDegerler) {
   EXPECT_EQ(Genel::DetayLimit, 2);
 
   // Choosing a port hides the box; choosing "Diğer" empties and shows it.
-  f->cmbFatura->setCurrentIndex(2);
-  f->cmbFatura_Click();
+  QApplication::setActiveWindow(ana_.get());
+  test::Sec(f->cmbFatura, QStringLiteral("LPT3"));
   EXPECT_EQ(f->txtFatura->text(), QStringLiteral("LPT3"));
   EXPECT_TRUE(f->txtFatura->isHidden());
-  f->cmbSozlesme->setCurrentIndex(3);
-  f->cmbSozlesme_Click();
+  test::Sec(f->cmbSozlesme, QStringLiteral("D"));
   EXPECT_TRUE(f->txtSozlesme->text().isEmpty());
   EXPECT_FALSE(f->txtSozlesme->isHidden());
 
@@ -272,10 +276,13 @@ TEST_F(Ayarlar, DigerYaziciVeDosyadakiDegerler) {
   EXPECT_EQ(d.readAll(), once);
   d.close();
 
-  f->txtSozlesme->setText(QStringLiteral("/dev/usb/lp0"));
-  f->txtTarihBas->setText(QStringLiteral("4x"));
-  f->chkHaftaSonu->setChecked(true);
-  f->chkIslem->setChecked(true);
+  test::Yaz(f->txtSozlesme, QStringLiteral("/dev/usb/lp0"));
+  test::Yaz(f->txtTarihBas, QStringLiteral("4x"));
+  for (QCheckBox* k : {f->chkHaftaSonu, f->chkIslem}) {
+    ASSERT_FALSE(k->isChecked()) << k->objectName().toStdString();
+    k->setFocus();
+    QTest::keyClick(k, Qt::Key_Space);
+  }
   f->cmdKaydet_Click();
   EXPECT_EQ(Genel::PrinterSozlesme, QStringLiteral("/dev/usb/lp0"));
   EXPECT_EQ(Genel::PrinterFatura, QStringLiteral("LPT3"));
@@ -287,7 +294,9 @@ TEST_F(Ayarlar, DigerYaziciVeDosyadakiDegerler) {
 
 TEST_F(Ayarlar, YazilanlarBaskaEkrandanDonunceKaybolur) {
   frmIni* f = Ac();
-  f->txtBasBosluk->setText(QStringLiteral("77"));
+  QApplication::setActiveWindow(ana_.get());
+  test::Yaz(f->txtBasBosluk, QStringLiteral("77"));
+  ASSERT_EQ(f->txtBasBosluk->text(), QStringLiteral("77"));
   ekran::Ac(QStringLiteral("frmhakkinda"));
   ekran::Ac(QStringLiteral("frmIni"));
   test::Isle();

@@ -65,7 +65,7 @@ TEST_F(FaturaEk, BosBaslarHesaplarKaydeder) {
   Yaz(f->txtAciklama, QString());
   EXPECT_EQ(Kutular(), "Kritik Dikkat: Hatalı Tarih");
   EXPECT_EQ(QApplication::focusWidget(), f->txtTarih);
-  f->txtTarih->setText("10.03.2005");
+  Yaz(f->txtTarih, "10.03.2005");
   // The amount: rewritten as money when left, and Hesapla runs.
   Yaz(f->txtTutar, "1000");
   Yaz(f->txtMasraf, QString());
@@ -109,7 +109,7 @@ TEST_F(FaturaEk, SozlesmeFaturasininNumarasiniAlamaz) {
   EXPECT_EQ(Tablo("SELECT FaturaNo, SozlesmeID, Tutar FROM Fatura"), "3|1|40000");
   EXPECT_FALSE(f->cmdYazdir->isEnabled());
   // Without a date: the save's own message, without the engine's text.
-  f->txtTarih->clear();
+  Yaz(f->txtTarih, "");
   Yaz(f->txtFaturaNo, "4");
   ASSERT_TRUE(Bas(f->cmdSave));
   EXPECT_EQ(Kutular(),

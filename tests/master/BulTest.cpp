@@ -15,6 +15,7 @@
 #include "master/frmMusteri.h"
 #include "master/rptEtiket.h"
 #include "tests/master/Ortak.h"
+#include "tests/support/Klavye.h"
 
 using namespace Qt::StringLiterals;
 
@@ -39,10 +40,15 @@ class BulTest : public test::Ortam {
   // The names found, in the order listed.
   QString Ara(const char* metin, bool adres = false, bool icinde = false) {
     frmBul& b = Bul();
-    b.cmbKriter->setCurrentIndex(adres ? 1 : 0);
-    b.chkAraTip->setChecked(icinde);
-    b.txtAranacak->setText(QString::fromUtf8(metin));
-    b.cmdAra_Click();
+    QApplication::setActiveWindow(&b);
+    b.cmbKriter->setFocus();
+    QTest::keyClick(b.cmbKriter, adres ? Qt::Key_End : Qt::Key_Home);
+    if (b.chkAraTip->isChecked() != icinde) {
+      b.chkAraTip->setFocus();
+      QTest::keyClick(b.chkAraTip, Qt::Key_Space);
+    }
+    test::Yaz(b.txtAranacak, QString::fromUtf8(metin));
+    test::Tikla(b.cmdAra);
     QStringList adlar;
     for (b.rsBulunan.MoveFirst(); !b.rsBulunan.Eof(); b.rsBulunan.MoveNext())
       adlar << b.rsBulunan.Metin(u"AdSoyad"_s);

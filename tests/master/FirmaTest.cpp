@@ -13,6 +13,9 @@ class Firma : public test::Ortam {
   std::unique_ptr<frmFirma> Ac() {
     auto f = std::make_unique<frmFirma>();
     f->Yukle();
+    f->show();
+    QApplication::setActiveWindow(f.get());
+    test::Isle();
     return f;
   }
   static QString Sutunlar(const char* adlar) {
@@ -39,22 +42,22 @@ TEST_F(Firma, IlkAcilisNullSatiri) {
 TEST_F(Firma, KaydetGenelSerileriHemenDegistirir) {
   Genel::FirmaAdi = "Eski Ad";
   auto f = Ac();
-  f->txtKurulusKod->setText("11");
-  f->txtVergiKimlikNo->setText("1234567890");
-  f->cmbTur->setCurrentIndex(0);
+  test::Yaz(f->txtKurulusKod, "11");
+  test::Yaz(f->txtVergiKimlikNo, "1234567890");
+  test::Sec(f->cmbTur, "Kiş");
   EXPECT_EQ(f->lblSoyadi->text() + f->lblAdi->text() + f->lblBabaAdi->text(),
             "Soyadı:Adı:Baba Adı:");
   // Apostrophes, percent signs, underscores and Turkish letters as typed.
-  f->txtSoyadi->setText("O'Neil %100_Güç");
-  f->txtAdi->setText("Şükrü İğdeli");
-  f->txtBabaAdi->setText("Ömer");
-  f->txtAdres->setText("Atatürk Cd. No:5 'Çarşı' %_");
-  f->txtIlce->setText("Çankaya");
-  f->cmbIl->setCurrentIndex(5);
-  f->txtPostaKod->setText("06100");
-  f->txtFaturaSeri->setText("FZ");
-  f->txtSozlesmeSeri->setText("SZ");
-  f->cmdUpdate_Click();
+  test::Yaz(f->txtSoyadi, "O'Neil %100_Güç");
+  test::Yaz(f->txtAdi, "Şükrü İğdeli");
+  test::Yaz(f->txtBabaAdi, "Ömer");
+  test::Yaz(f->txtAdres, "Atatürk Cd. No:5 'Çarşı' %_");
+  test::Yaz(f->txtIlce, "Çankaya");
+  test::Sec(f->cmbIl, "Ank");
+  test::Yaz(f->txtPostaKod, "06100");
+  test::Yaz(f->txtFaturaSeri, "FZ");
+  test::Yaz(f->txtSozlesmeSeri, "SZ");
+  test::Tikla(f->cmdUpdate);
   EXPECT_EQ(Kutular(), "Bilgi Bilgi: Bilgiler Kaydedildi.");
   EXPECT_EQ(Sutunlar("Soyadi, Adres, Tur, IlKod, Kuruluskod"),
             "O'Neil %100_Güç|Atatürk Cd. No:5 'Çarşı' %_|1|6|11");
@@ -69,9 +72,10 @@ TEST_F(Firma, KaydetGenelSerileriHemenDegistirir) {
 TEST_F(Firma, IptalKayitliHaliGeriGetirirSinirlarAsilmaz) {
   test::Sql("UPDATE Firma SET Soyadi = 'Kayıtlı', Tur = 2");
   auto f = Ac();
-  f->txtSoyadi->setText("Değişti");
-  f->cmbTur->setCurrentIndex(0);
-  f->cmdCancel_Click();
+  test::Yaz(f->txtSoyadi, "Değişti");
+  test::Sec(f->cmbTur, "K");  // from Kuruluş down to Kişi
+  EXPECT_EQ(f->cmbTur->currentIndex(), 0);
+  test::Tikla(f->cmdCancel);
   EXPECT_EQ(f->txtSoyadi->text(), "Kayıtlı");
   EXPECT_EQ(f->cmbTur->currentIndex(), 1);
   EXPECT_TRUE(Mesajlar().isEmpty());

@@ -91,9 +91,11 @@ TEST_F(RaporKomutu, DosyaEkraninIzgarasiylaAyni) {
   EXPECT_EQ(cekler.count('\n'), 3);  // captions and two papers
   frmTahsilat t;
   t.Yukle();
-  t.txtTarih[0]->setText("01.01.2026");
-  t.txtTarih[1]->setText("31.12.2026");
-  t.cmdListe_Click();
+  t.show();
+  QApplication::setActiveWindow(&t);
+  test::Yaz(t.txtTarih[0], "01.01.2026");
+  test::Yaz(t.txtTarih[1], "31.12.2026");
+  test::Tikla(t.cmdListe);
   EXPECT_EQ(EkranCsv(t.cmdCsv), cekler);
 
   const QByteArray gelir = KomutCsv({"gelir"});
