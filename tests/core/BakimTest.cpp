@@ -9,13 +9,11 @@
 #include <QMdiArea>
 
 #include "core/Ekran.h"
-#include "core/Genel.h"
 #include "core/frmGeriYukle.h"
-#include "core/frmMain.h"
 #include "db/Kayitlar.h"
 #include "db/Yedek.h"
+#include "tests/core/Ortak.h"
 #include "tests/support/Klavye.h"
-#include "tests/support/Ortam.h"
 
 namespace {
 
@@ -23,33 +21,21 @@ using namespace Qt::StringLiterals;
 
 const QString kProblem = u"Bir Problem Oldu, Program Kullanılıyor Olabilir, Çıkıp Tekrar Deneyin"_s;
 
-QByteArray Icerik(const QString& yol) {
-  QFile f(yol);
-  return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<okunamadı>");
-}
+using test::Icerik;
 
-class Bakim : public test::Ortam {
+class Bakim : public test::AnaPencere {
  protected:
   void SetUp() override {
-    test::Ortam::SetUp();
-    Genel::Baglanti.Calistir(
-        "UPDATE Firma SET Soyadi = 'Kılıç Finans', SozlesmeSeri = 'AB', FaturaSeri = 'FT'");
+    test::AnaPencere::SetUp();
+    FirmaDoldur();
   }
-  void Baslat() {
-    Genel::Baglanti.Kapat();
-    ana_ = std::make_unique<frmMain>();
-    ana_->show();
-    ASSERT_TRUE(ana_->Form_Load());
-    test::Isle();
-  }
-  QString Dosya(const QString& ad) const { return veriDizini() + '/' + ad; }
-  QString Bugun() const {
-    return Dosya("velmora_" + QDate::currentDate().toString("ddMMyyyy") + ".db");
+  // The day's backup, or that of `gun` days later.
+  QString Bugun(int gun = 0) const {
+    return Dosya("velmora_" + QDate::currentDate().addDays(gun).toString("ddMMyyyy") + ".db");
   }
   QStringList Yedekler() const {
     return QDir(veriDizini()).entryList({"velmora_*.db"}, QDir::Files, QDir::Name);
   }
-  std::unique_ptr<frmMain> ana_;
 };
 
 // --- the day's backup
@@ -57,15 +43,14 @@ class Bakim : public test::Ortam {
 TEST_F(Bakim, GununIlkAcilisindaYedekAlinir) {
   // Thirty days of backups already stand in the folder.
   for (int i = 1; i <= 30; ++i) {
-    QFile f(Dosya("velmora_" + QDate::currentDate().addDays(-i).toString("ddMMyyyy") + ".db"));
+    QFile f(Bugun(-i));
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
   }
   Baslat();
   EXPECT_EQ(Kutular(), QString());
   EXPECT_TRUE(QFile::exists(Bugun()));
   EXPECT_EQ(Yedekler().size(), 30);
-  EXPECT_FALSE(QFile::exists(
-      Dosya("velmora_" + QDate::currentDate().addDays(-30).toString("ddMMyyyy") + ".db")));
+  EXPECT_FALSE(QFile::exists(Bugun(-30)));
   const QByteArray ilk = Icerik(Bugun());
 
   // A later start of the same day takes none.
@@ -77,8 +62,7 @@ TEST_F(Bakim, GununIlkAcilisindaYedekAlinir) {
 
 TEST_F(Bakim, GunlukYedekAlinamazsaSoylenirAcilisSurer) {
   // A folder where the copy is written first.
-  QFile engel(veriDizini() + "/velmora_" + QDate::currentDate().toString("ddMMyyyy") + ".db.tmp");
-  ASSERT_TRUE(QDir().mkdir(engel.fileName()));
+  ASSERT_TRUE(QDir().mkdir(Bugun() + ".tmp"));
   Baslat();
   const QString kutular = Kutular();
   EXPECT_TRUE(kutular.startsWith(u"Ünlem UYARI: Günlük yedek alınamadı.\n"_s))
