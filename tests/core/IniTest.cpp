@@ -63,15 +63,12 @@ TEST_F(Ini, OkumaKurallari) {
       "[FATURA]\r\n"
       "IsimBas=30");  // no final newline, second header of a section
   AyarOku();
-  EXPECT_EQ(BasBosluk, 12);  // leading digits; names without regard to case
-  EXPECT_EQ(SonBosluk, 0);
-  EXPECT_TRUE(Sayfabasi);   // on above 0
-  EXPECT_FALSE(HaftaSonu);  // on at exactly 1
-  EXPECT_FALSE(Hesapla);
-  EXPECT_EQ(TarihBas, 8);
-  EXPECT_EQ(TutarBas, 32767);
-  EXPECT_EQ(DetayLimit, 2);
-  EXPECT_EQ(IsimBas, 24);  // only the first header of a section counts
+  // Leading digits, names without regard to case, 7.5 rounded, cut at the
+  // largest int16; only the first header of a section counts.
+  EXPECT_EQ(QList<int>({BasBosluk, SonBosluk, TarihBas, TutarBas, DetayLimit, IsimBas}),
+            QList<int>({12, 0, 8, 32767, 2, 24}));
+  // On above 0 (Sayfabasi), at exactly 1 (HaftaSonu, Hesapla).
+  EXPECT_EQ(QList<bool>({Sayfabasi, HaftaSonu, Hesapla}), QList<bool>({true, false, false}));
   EXPECT_EQ(PrinterSozlesme, u"\\\\sunucu\\yazici"_s);
   EXPECT_EQ(SahipAdi, u"Deniz Aksoy"_s);
 }

@@ -128,8 +128,7 @@ TEST_F(Kabuk, AyarDiziniYoksaProgramBiter) {
   frmMain ana;
   ana.show();
   EXPECT_FALSE(ana.Form_Load());
-  EXPECT_EQ(MesajMetinleri(), QStringList{u"Windows Dizini Bulunamadı!!!"_s});
-  EXPECT_EQ(Mesajlar()[0].baslik, u"ÖNEMLİ HATA"_s);
+  EXPECT_EQ(Kutular(), u"Kritik ÖNEMLİ HATA: Windows Dizini Bulunamadı!!!"_s);
   EXPECT_FALSE(Genel::Baglanti.Acik());
 }
 
@@ -218,8 +217,7 @@ TEST_F(Ayarlar, DigerYaziciVeDosyadakiDegerler) {
   // An empty printer is refused and nothing is written.
   const QByteArray once = test::Icerik(Genel::IniDosya);
   f->cmdKaydet_Click();
-  EXPECT_EQ(MesajMetinleri(), QStringList{u"Geçersiz Yazıcı Tanımı"_s});
-  EXPECT_EQ(Mesajlar().last().baslik, u"HATA"_s);
+  EXPECT_EQ(Kutular(), u"Kritik HATA: Geçersiz Yazıcı Tanımı"_s);
   EXPECT_NE(ekran::Acik(u"frmIni"_s), nullptr);
   EXPECT_EQ(test::Icerik(Genel::IniDosya), once);
 
@@ -228,12 +226,9 @@ TEST_F(Ayarlar, DigerYaziciVeDosyadakiDegerler) {
   f->chkHaftaSonu->setChecked(true);
   f->chkIslem->setChecked(true);
   f->cmdKaydet_Click();
-  EXPECT_EQ(Genel::PrinterSozlesme, u"/dev/usb/lp0"_s);
-  EXPECT_EQ(Genel::PrinterFatura, u"LPT3"_s);
-  EXPECT_EQ(Genel::TarihBas, 4);
-  EXPECT_TRUE(Genel::HaftaSonu);
-  EXPECT_TRUE(Genel::SadeceGoster);
-  EXPECT_EQ(Genel::DetayLimit, 2);
+  EXPECT_EQ(Genel::PrinterSozlesme + '|' + Genel::PrinterFatura, u"/dev/usb/lp0|LPT3"_s);
+  EXPECT_EQ(QList<int>({Genel::TarihBas, Genel::DetayLimit}), QList<int>({4, 2}));
+  EXPECT_TRUE(Genel::HaftaSonu && Genel::SadeceGoster);
 }
 
 TEST_F(Ayarlar, YazilanlarBaskaEkrandanDonunceKaybolur) {
