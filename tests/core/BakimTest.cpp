@@ -9,47 +9,35 @@
 #include <QMdiArea>
 
 #include "core/Ekran.h"
-#include "core/Genel.h"
 #include "core/frmGeriYukle.h"
-#include "core/frmMain.h"
 #include "db/Kayitlar.h"
 #include "db/Yedek.h"
+#include "tests/core/Ortak.h"
 #include "tests/support/Klavye.h"
-#include "tests/support/Ortam.h"
 
 namespace {
 
 using namespace Qt::StringLiterals;
 
 const QString kProblem = u"Bir Problem Oldu, Program Kullanılıyor Olabilir, Çıkıp Tekrar Deneyin"_s;
+const QString kBakimSorusu =
+    u"Soru BAKIM: Veri tabanı bakımı için açık ekranlar kapatılacak. Devam edilsin mi?"_s;
 
-QByteArray Icerik(const QString& yol) {
-  QFile f(yol);
-  return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<okunamadı>");
-}
+using test::Icerik;
 
-class Bakim : public test::Ortam {
+class Bakim : public test::AnaPencere {
  protected:
   void SetUp() override {
-    test::Ortam::SetUp();
-    Genel::Baglanti.Calistir(
-        "UPDATE Firma SET Soyadi = 'Kılıç Finans', SozlesmeSeri = 'AB', FaturaSeri = 'FT'");
+    test::AnaPencere::SetUp();
+    FirmaDoldur();
   }
-  void Baslat() {
-    Genel::Baglanti.Kapat();
-    ana_ = std::make_unique<frmMain>();
-    ana_->show();
-    ASSERT_TRUE(ana_->Form_Load());
-    test::Isle();
-  }
-  QString Dosya(const QString& ad) const { return veriDizini() + '/' + ad; }
-  QString Bugun() const {
-    return Dosya("velmora_" + QDate::currentDate().toString("ddMMyyyy") + ".db");
+  // The day's backup, or that of `gun` days later.
+  QString Bugun(int gun = 0) const {
+    return Dosya("velmora_" + QDate::currentDate().addDays(gun).toString("ddMMyyyy") + ".db");
   }
   QStringList Yedekler() const {
     return QDir(veriDizini()).entryList({"velmora_*.db"}, QDir::Files, QDir::Name);
   }
-  std::unique_ptr<frmMain> ana_;
 };
 
 // --- the day's backup
@@ -57,15 +45,14 @@ class Bakim : public test::Ortam {
 TEST_F(Bakim, GununIlkAcilisindaYedekAlinir) {
   // Thirty days of backups already stand in the folder.
   for (int i = 1; i <= 30; ++i) {
-    QFile f(Dosya("velmora_" + QDate::currentDate().addDays(-i).toString("ddMMyyyy") + ".db"));
+    QFile f(Bugun(-i));
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
   }
   Baslat();
   EXPECT_EQ(Kutular(), QString());
   EXPECT_TRUE(QFile::exists(Bugun()));
   EXPECT_EQ(Yedekler().size(), 30);
-  EXPECT_FALSE(QFile::exists(
-      Dosya("velmora_" + QDate::currentDate().addDays(-30).toString("ddMMyyyy") + ".db")));
+  EXPECT_FALSE(QFile::exists(Bugun(-30)));
   const QByteArray ilk = Icerik(Bugun());
 
   // A later start of the same day takes none.
@@ -77,8 +64,7 @@ TEST_F(Bakim, GununIlkAcilisindaYedekAlinir) {
 
 TEST_F(Bakim, GunlukYedekAlinamazsaSoylenirAcilisSurer) {
   // A folder where the copy is written first.
-  QFile engel(veriDizini() + "/velmora_" + QDate::currentDate().toString("ddMMyyyy") + ".db.tmp");
-  ASSERT_TRUE(QDir().mkdir(engel.fileName()));
+  ASSERT_TRUE(QDir().mkdir(Bugun() + ".tmp"));
   Baslat();
   const QString kutular = Kutular();
   EXPECT_TRUE(kutular.startsWith(u"Ünlem UYARI: Günlük yedek alınamadı.\n"_s))
@@ -90,7 +76,7 @@ TEST_F(Bakim, GunlukYedekAlinamazsaSoylenirAcilisSurer) {
 
 // --- mnuBakim
 
-TEST_F(Bakim, BakimAcikEkranlariSorupKapatir) {
+TEST_F(Bakim, BakimAcikEkranlariSorupKapatirBasarisizsaProgramSurer) {
   Baslat();
   ana_->mnuAbout->trigger();
   ASSERT_NE(ekran::Acik("frmhakkinda"), nullptr);
@@ -99,8 +85,7 @@ TEST_F(Bakim, BakimAcikEkranlariSorupKapatir) {
   // "No" leaves everything as it was.
   Cevap(mesaj::Dugme::Hayir);
   ana_->mnuBakim->trigger();
-  EXPECT_EQ(Kutular(),
-            u"Soru BAKIM: Veri tabanı bakımı için açık ekranlar kapatılacak. Devam edilsin mi?"_s);
+  EXPECT_EQ(Kutular(), kBakimSorusu);
   EXPECT_NE(ekran::Acik("frmhakkinda"), nullptr);
   EXPECT_FALSE(QFile::exists(Bugun()));
 
@@ -108,9 +93,7 @@ TEST_F(Bakim, BakimAcikEkranlariSorupKapatir) {
   const QByteArray once = Icerik(Genel::VeriTabaniYolu());
   ana_->mnuBakim->trigger();
   test::Isle();
-  EXPECT_EQ(Kutular(),
-            u"Soru BAKIM: Veri tabanı bakımı için açık ekranlar kapatılacak. Devam edilsin mi?\n"
-            "Bilgi BAKIM: Veri Tabanı Bakımı Yapıldı"_s);
+  EXPECT_EQ(Kutular(), kBakimSorusu + u"\nBilgi BAKIM: Veri Tabanı Bakımı Yapıldı"_s);
   EXPECT_EQ(ekran::Acik("frmhakkinda"), nullptr);
   EXPECT_TRUE(ana_->mdi->subWindowList().isEmpty());
   EXPECT_EQ(Icerik(Bugun()), once);
@@ -119,15 +102,13 @@ TEST_F(Bakim, BakimAcikEkranlariSorupKapatir) {
   // No screen open: no question.
   ana_->mnuBakim->trigger();
   EXPECT_EQ(Kutular(), u"Bilgi BAKIM: Veri Tabanı Bakımı Yapıldı"_s);
-}
 
-TEST_F(Bakim, BakimBasarisizsaProgramKullanilabilir) {
-  Baslat();
+  // A failed maintenance leaves the file as it was.
   ASSERT_TRUE(QDir().mkdir(Dosya("velmora_new.db")));
-  const QByteArray once = Icerik(Genel::VeriTabaniYolu());
+  const QByteArray sonra = Icerik(Genel::VeriTabaniYolu());
   ana_->mnuBakim->trigger();
   EXPECT_EQ(Kutular(), "Kritik UYARI: " + kProblem);
-  EXPECT_EQ(Icerik(Genel::VeriTabaniYolu()), once);
+  EXPECT_EQ(Icerik(Genel::VeriTabaniYolu()), sonra);
   // The program goes on: a screen opens on the same connection.
   ana_->mnuAbout->trigger();
   EXPECT_NE(ekran::Acik("frmhakkinda"), nullptr);
@@ -216,9 +197,7 @@ TEST_F(Bakim, AyarlarinYedegi) {
     const QString k = Kutular();
     EXPECT_TRUE(k.startsWith(u"Kritik HATA: Bir Hata Oluştu\n"_s)) << k.toStdString();
     EXPECT_GT(k.size(), QString(u"Kritik HATA: Bir Hata Oluştu\n"_s).size());
-    if (QString(ad) != "Yedek_Velmora.ini") {
-      EXPECT_EQ(Icerik(Dosya("Yedek_Velmora.ini")), ini);
-    }
+    if (QString(ad) != "Yedek_Velmora.ini") EXPECT_EQ(Icerik(Dosya("Yedek_Velmora.ini")), ini);
     QDir().rmdir(Dosya(ad));
   }
 }

@@ -13,7 +13,10 @@
 #include <QVBoxLayout>
 
 #include "core/Ekran.h"
+#include "tests/support/Klavye.h"
 #include "tests/support/Ortam.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -21,18 +24,16 @@ struct Pencere {
   QWidget w;
   QLineEdit* alan = new QLineEdit;
   QLineEdit* diger = new QLineEdit;
-  QPushButton* kaydet = new QPushButton(QStringLiteral("&Kaydet"));
-  QPushButton* vazgec = new QPushButton(QStringLiteral("Vazgeç"));
+  QPushButton* kaydet = new QPushButton(u"&Kaydet"_s);
+  QPushButton* vazgec = new QPushButton(u"Vazgeç"_s);
   int kaydetSayisi = 0, vazgecSayisi = 0;
 
   Pencere() {
     auto* l = new QVBoxLayout(&w);
-    for (QWidget* c : {static_cast<QWidget*>(alan), static_cast<QWidget*>(diger),
-                       static_cast<QWidget*>(kaydet), static_cast<QWidget*>(vazgec)})
-      l->addWidget(c);
+    for (QWidget* c : std::initializer_list<QWidget*>{alan, diger, kaydet, vazgec}) l->addWidget(c);
     QObject::connect(kaydet, &QPushButton::clicked, [this] { ++kaydetSayisi; });
     QObject::connect(vazgec, &QPushButton::clicked, [this] { ++vazgecSayisi; });
-    ekran::AyrilirkenKontrol(alan, [this] { return alan->text() != QStringLiteral("0"); });
+    ekran::AyrilirkenKontrol(alan, [this] { return alan->text() != u"0"_s; });
     ekran::KontrolTetiklemez(vazgec);
     w.show();
     QApplication::setActiveWindow(&w);
@@ -48,7 +49,7 @@ TEST(Ekran, AyrilmaKontroluOdagiTutarVeTiklamayiDusurur) {
   p.diger->setFocus();  // Tab or a click elsewhere
   test::Isle();
   EXPECT_TRUE(p.alan->hasFocus());
-  EXPECT_EQ(p.alan->selectedText(), QStringLiteral("0"));
+  EXPECT_EQ(p.alan->selectedText(), u"0"_s);
 
   QTest::mouseClick(p.kaydet, Qt::LeftButton);
   test::Isle();
@@ -100,23 +101,15 @@ TEST(Ekran, KilitliKutuOdagiTutmaz) {
   EXPECT_TRUE(p.alan->hasFocus());
 }
 
-// Typed characters, Turkish letters included, as the keyboard sends them.
-void Yaz(QLineEdit* kutu, const QString& metin) {
-  for (QChar c : metin) {
-    QKeyEvent basildi(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
-    QApplication::sendEvent(kutu, &basildi);
-  }
-}
-
 TEST(Ekran, TusSuzgecleri) {
   QLineEdit buyuk, sayi, tarih;
   ekran::BuyukHarfKur(&buyuk);
   ekran::SayiTusuKur(&sayi);
   ekran::TarihKutusuKur(&tarih);
-  Yaz(&buyuk, QStringLiteral("iışğ a"));
-  EXPECT_EQ(buyuk.text(), QStringLiteral("İIŞĞ A"));
-  Yaz(&sayi, QStringLiteral("1a2.3,4-x"));
-  EXPECT_EQ(sayi.text(), QStringLiteral("12.3,4"));
+  test::Tusla(&buyuk, u"iışğ a"_s);
+  EXPECT_EQ(buyuk.text(), u"İIŞĞ A"_s);
+  test::Tusla(&sayi, u"1a2.3,4-x"_s);
+  EXPECT_EQ(sayi.text(), u"12.3,4"_s);
   tarih.setText(QStringLiteral("31.12.2005"));
   QTest::keyClick(&tarih, Qt::Key_Escape);
   EXPECT_TRUE(tarih.text().isEmpty());
@@ -133,16 +126,15 @@ TEST_F(TarihKutusuTest, YazilanTarihDuzeltilirYaDaReddedilir) {
     bool gecer;
   } durumlar[] = {
       {"", QString(), true},
-      {"1.2.2005", QStringLiteral("01.02.2005"), true},
-      {"5/6/07", QStringLiteral("05.06.2007"), true},
-      {"1.12", QStringLiteral("01.12.") + buYil, true},
-      {"31.12.1999", QStringLiteral("31.12.1999"), false},  // rewritten, yet refused
-      {"32.01.2005", QStringLiteral("32.01.2005"), false},
-      {"abc", QStringLiteral("abc"), false},
+      {"1.2.2005", u"01.02.2005"_s, true},
+      {"5/6/07", u"05.06.2007"_s, true},
+      {"1.12", u"01.12."_s + buYil, true},
+      {"31.12.1999", u"31.12.1999"_s, false},  // rewritten, yet refused
+      {"32.01.2005", u"32.01.2005"_s, false},
+      {"abc", u"abc"_s, false},
   };
   for (const auto& d : durumlar) {
     SCOPED_TRACE(d.yazilan);
-    MesajlariTemizle();
     Pencere p;
     ekran::TarihKutusu(p.diger);
     p.diger->setFocus();
@@ -152,22 +144,9 @@ TEST_F(TarihKutusuTest, YazilanTarihDuzeltilirYaDaReddedilir) {
     test::Isle();
     EXPECT_EQ(p.diger->text(), d.kalan);
     EXPECT_EQ(p.diger->hasFocus(), !d.gecer);
-    if (d.gecer) {
-      EXPECT_TRUE(Mesajlar().isEmpty());
-    } else {
-      ASSERT_EQ(Mesajlar().size(), 1);
-      EXPECT_EQ(Mesajlar()[0].metin, QStringLiteral("Hatalı Tarih"));
-      EXPECT_EQ(Mesajlar()[0].baslik, QStringLiteral("Dikkat"));
-      EXPECT_EQ(Mesajlar()[0].tur, mesaj::Tur::Kritik);
-      EXPECT_EQ(p.diger->selectedText(), d.kalan);
-    }
+    EXPECT_EQ(Kutular(), d.gecer ? QString() : u"Kritik Dikkat: Hatalı Tarih"_s);
+    if (!d.gecer) EXPECT_EQ(p.diger->selectedText(), d.kalan);
   }
-  // Esc empties the box.
-  Pencere p;
-  ekran::TarihKutusu(p.diger);
-  p.diger->setText(QStringLiteral("01.02.2005"));
-  QTest::keyClick(p.diger, Qt::Key_Escape);
-  EXPECT_TRUE(p.diger->text().isEmpty());
 }
 
 }  // namespace
@@ -180,7 +159,7 @@ TEST_F(MesajKutusu, UzunMesajEkranaSigar) {
   mesaj::CevaplayiciKaldir();
   QStringList satirlar;
   for (int i = 0; i < 5000; ++i)
-    satirlar << QStringLiteral("%1 Numaralı Müşterinin Vergi numarası Hatalı").arg(i);
+    satirlar << u"%1 Numaralı Müşterinin Vergi numarası Hatalı"_s.arg(i);
   QSize boyut;
   bool kaydirir = false;
   QTimer::singleShot(0, [&] {

@@ -10,6 +10,7 @@
 #include "tests/support/Ortam.h"
 
 using namespace Genel;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,25 +33,14 @@ class Ini : public test::Ortam {
 
 TEST_F(Ini, DosyaYokkenVarsayilanlar) {
   ASSERT_FALSE(QFile::exists(IniDosya));
-  EXPECT_EQ(Deger("Fatura", "Printer", "LPT2"), QStringLiteral("LPT2"));
+  EXPECT_EQ(Deger("Fatura", "Printer", "LPT2"), u"LPT2"_s);
   AyarOku();
-  EXPECT_EQ(BasBosluk, 11);
-  EXPECT_EQ(SonBosluk, 10);
-  EXPECT_EQ(IlaveGun, 3);
-  EXPECT_EQ(IsimBas, 24);
-  EXPECT_EQ(TarihBas, 59);
-  EXPECT_EQ(TutarBas, 58);
-  EXPECT_EQ(DetayLimit, 22);
-  EXPECT_EQ(PrinterFatura, QStringLiteral("LPT2"));
-  EXPECT_EQ(PrinterSozlesme, QStringLiteral("LPT1"));
-  EXPECT_TRUE(PulBedeli);
-  EXPECT_TRUE(Hesapla);
-  EXPECT_TRUE(MasrafGoster);
-  EXPECT_TRUE(DetayToplamYaz);
-  EXPECT_FALSE(Sayfabasi);
-  EXPECT_FALSE(HaftaSonu);
-  EXPECT_FALSE(OrtalamaGun);
-  EXPECT_FALSE(SadeceGoster);
+  EXPECT_EQ(QList<int>({BasBosluk, SonBosluk, IlaveGun, IsimBas, TarihBas, TutarBas, DetayLimit}),
+            QList<int>({11, 10, 3, 24, 59, 58, 22}));
+  EXPECT_EQ(PrinterFatura + '|' + PrinterSozlesme, u"LPT2|LPT1"_s);
+  EXPECT_EQ(QList<bool>({PulBedeli, Hesapla, MasrafGoster, DetayToplamYaz, Sayfabasi, HaftaSonu,
+                         OrtalamaGun, SadeceGoster}),
+            QList<bool>({true, true, true, true, false, false, false, false}));
   EXPECT_TRUE(SahipAdi.isEmpty());
 }
 
@@ -73,31 +63,27 @@ TEST_F(Ini, OkumaKurallari) {
       "[FATURA]\r\n"
       "IsimBas=30");  // no final newline, second header of a section
   AyarOku();
-  EXPECT_EQ(BasBosluk, 12);  // leading digits; names without regard to case
-  EXPECT_EQ(SonBosluk, 0);
-  EXPECT_TRUE(Sayfabasi);    // on above 0
-  EXPECT_FALSE(HaftaSonu);   // on at exactly 1
-  EXPECT_FALSE(Hesapla);
-  EXPECT_EQ(TarihBas, 8);
-  EXPECT_EQ(TutarBas, 32767);
-  EXPECT_EQ(DetayLimit, 2);
-  EXPECT_EQ(IsimBas, 24);  // only the first header of a section counts
-  EXPECT_EQ(PrinterSozlesme, QStringLiteral("\\\\sunucu\\yazici"));
-  EXPECT_EQ(SahipAdi, QStringLiteral("Deniz Aksoy"));
+  // Leading digits, names without regard to case, 7.5 rounded, cut at the
+  // largest int16; only the first header of a section counts.
+  EXPECT_EQ(QList<int>({BasBosluk, SonBosluk, TarihBas, TutarBas, DetayLimit, IsimBas}),
+            QList<int>({12, 0, 8, 32767, 2, 24}));
+  // On above 0 (Sayfabasi), at exactly 1 (HaftaSonu, Hesapla).
+  EXPECT_EQ(QList<bool>({Sayfabasi, HaftaSonu, Hesapla}), QList<bool>({true, false, false}));
+  EXPECT_EQ(PrinterSozlesme, u"\\\\sunucu\\yazici"_s);
+  EXPECT_EQ(SahipAdi, u"Deniz Aksoy"_s);
 }
 
 TEST_F(Ini, YazmakDigerSatirlariKorur) {
   Yaz("; ofis ayarları\n[Fatura]\nPrinter=LPT3\n; not\nBasBosluk=4\n\n[Hesap]\nIlaveGun=2\n");
-  IniYaz(IniDosya, QStringLiteral("FATURA"), QStringLiteral("basbosluk"), QStringLiteral("9"));
-  IniYaz(IniDosya, QStringLiteral("Fatura"), QStringLiteral("SonBosluk"), QStringLiteral("3"));
-  IniYaz(IniDosya, QStringLiteral("Yeni"), QStringLiteral("A"), QStringLiteral("x\r\ny"));
-  EXPECT_EQ(Oku(),
-            QByteArray("; ofis ayarları\n[Fatura]\nPrinter=LPT3\n; not\nbasbosluk=9\n"
-                       "SonBosluk=3\n\n[Hesap]\nIlaveGun=2\n\n[Yeni]\nA=x  y\n"));
-  EXPECT_EQ(Deger("Yeni", "a"), QStringLiteral("x  y"));
-  EXPECT_EQ(Deger("Hesap", "IlaveGun"), QStringLiteral("2"));
-  EXPECT_EQ(Deger("Hesap", "Yok"), QStringLiteral("YOK"));
-  EXPECT_EQ(Deger("Yok", "IlaveGun"), QStringLiteral("YOK"));
+  IniYaz(IniDosya, u"FATURA"_s, u"basbosluk"_s, u"9"_s);
+  IniYaz(IniDosya, u"Fatura"_s, u"SonBosluk"_s, u"3"_s);
+  IniYaz(IniDosya, u"Yeni"_s, u"A"_s, u"x\r\ny"_s);
+  EXPECT_EQ(Oku(), QByteArray("; ofis ayarları\n[Fatura]\nPrinter=LPT3\n; not\nbasbosluk=9\n"
+                              "SonBosluk=3\n\n[Hesap]\nIlaveGun=2\n\n[Yeni]\nA=x  y\n"));
+  EXPECT_EQ(Deger("Yeni", "a"), u"x  y"_s);
+  EXPECT_EQ(Deger("Hesap", "IlaveGun"), u"2"_s);
+  EXPECT_EQ(Deger("Hesap", "Yok"), u"YOK"_s);
+  EXPECT_EQ(Deger("Yok", "IlaveGun"), u"YOK"_s);
 }
 
 TEST_F(Ini, BozukDosyalarOkunurVeYazilir) {
@@ -105,12 +91,12 @@ TEST_F(Ini, BozukDosyalarOkunurVeYazilir) {
   Yaz("[Fatura]\r\nPrinter=" + uzun + "\r\n[Fatura]\r\nPrinter=ikinci\r\n=bos anahtar\r\n[Hesap");
   // The value buffer holds 254 characters.
   EXPECT_EQ(Deger("Fatura", "Printer").size(), 254);
-  IniYaz(IniDosya, QStringLiteral("Hesap"), QStringLiteral("IlaveGun"), QStringLiteral("4"));
+  IniYaz(IniDosya, u"Hesap"_s, u"IlaveGun"_s, u"4"_s);
   // CRLF stays CRLF, and the file reads as before with the new value.
   const QByteArray b = Oku();
   EXPECT_TRUE(b.endsWith("\r\n"));
   EXPECT_FALSE(b.contains("\r\r"));
-  EXPECT_EQ(Deger("Hesap", "IlaveGun"), QStringLiteral("4"));
+  EXPECT_EQ(Deger("Hesap", "IlaveGun"), u"4"_s);
   EXPECT_EQ(Deger("Fatura", "Printer").size(), 254);
   AyarOku();
   EXPECT_EQ(IlaveGun, 4);
@@ -118,9 +104,9 @@ TEST_F(Ini, BozukDosyalarOkunurVeYazilir) {
 
 TEST_F(Ini, YazilamayanDosyaSessizKalir) {
   const QString eski = IniDosya;
-  IniDosya = ayarDizini() + QStringLiteral("/yok/olmayan/velmora.ini");
-  IniYaz(IniDosya, QStringLiteral("Fatura"), QStringLiteral("Printer"), QStringLiteral("X"));
-  EXPECT_EQ(Deger("Fatura", "Printer", "LPT2"), QStringLiteral("LPT2"));
+  IniDosya = ayarDizini() + u"/yok/olmayan/velmora.ini"_s;
+  IniYaz(IniDosya, u"Fatura"_s, u"Printer"_s, u"X"_s);
+  EXPECT_EQ(Deger("Fatura", "Printer", "LPT2"), u"LPT2"_s);
   EXPECT_TRUE(Mesajlar().isEmpty());
   IniDosya = eski;
 }

@@ -11,76 +11,39 @@
 #include <QMenu>
 
 #include "core/Ekran.h"
-#include "core/Genel.h"
 #include "core/frmIni.h"
-#include "core/frmMain.h"
 #include "db/Baglanti.h"
+#include "tests/core/Ortak.h"
 #include "tests/support/Klavye.h"
-#include "tests/support/Ortam.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kDbHata = QStringLiteral("Veri tabanı açılamadı. Ayarlarınızı kontrol ediniz!");
+QString Yol() { return Genel::VeriTabaniYolu(); }
 
-class Kabuk : public test::Ortam {
- public:
-  QString Yol() const { return Genel::VeriTabaniYolu(); }
-
-  void FirmaDoldur() {
-    Genel::Baglanti.Calistir(QStringLiteral(
-        "UPDATE Firma SET Soyadi = 'Kılıç Finans', SozlesmeSeri = 'AB', FaturaSeri = 'FT'"));
-  }
-
-  QByteArray Dosya() {
-    QFile f(Yol());
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-  }
-
-  // Starts the window on whatever stands in the data folder now.
-  std::unique_ptr<frmMain> Baslat() {
-    Genel::Baglanti.Kapat();
-    auto ana = std::make_unique<frmMain>();
-    ana->show();
-    EXPECT_TRUE(ana->Form_Load());
-    test::Isle();
-    return ana;
-  }
-
-  void DbHatasiBekle(frmMain& ana) {
-    EXPECT_EQ(MesajMetinleri(), QStringList{kDbHata});
-    ASSERT_FALSE(Mesajlar().isEmpty());
-    EXPECT_EQ(Mesajlar()[0].baslik, QStringLiteral("HATA"));
-    EXPECT_EQ(Mesajlar()[0].tur, mesaj::Tur::Kritik);
-    EXPECT_NE(ekran::Acik(QStringLiteral("frmIni")), nullptr);
-    EXPECT_TRUE(ana.isVisible());
-    EXPECT_TRUE(ana.mnuFirma->isEnabled() || !ekran::KayitliMi(QStringLiteral("frmFirma")));
-  }
-};
+using Kabuk = test::AnaPencere;
 
 TEST_F(Kabuk, IlkAcilistaVeriTabaniOlusur) {
   Genel::Baglanti.Kapat();
   ASSERT_TRUE(QFile::remove(Yol()));
-  auto ana = Baslat();
-  EXPECT_TRUE(Mesajlar().isEmpty()) << MesajMetinleri().join(QLatin1Char('|')).toStdString();
+  frmMain& ana = Baslat();
+  EXPECT_EQ(Kutular(), QString());
   EXPECT_TRUE(QFile::exists(Yol()));
   EXPECT_TRUE(Genel::Baglanti.Acik());
-  EXPECT_EQ(ana->windowTitle(), QStringLiteral(" - YTL Velmora Bilgi İşlem Sistemi. V.2.3"));
-  EXPECT_EQ(Genel::Baglanti.Deger(QStringLiteral("SELECT count(*) FROM Il_Trafik_Kodu")).toInt(),
-            81);
+  EXPECT_EQ(ana.windowTitle(), u" - YTL Velmora Bilgi İşlem Sistemi. V.2.3"_s);
+  EXPECT_EQ(Genel::Baglanti.Deger("SELECT count(*) FROM Il_Trafik_Kodu").toInt(), 81);
   EXPECT_EQ(QFile::permissions(Yol()) & (QFileDevice::ReadOther | QFileDevice::ReadGroup), 0);
 }
 
 TEST_F(Kabuk, FirmaKaydiBaslikVeGenelDegerler) {
   FirmaDoldur();
-  auto ana = Baslat();
-  EXPECT_TRUE(Mesajlar().isEmpty());
-  EXPECT_EQ(ana->windowTitle(),
-            QStringLiteral("Kılıç Finans - YTL Velmora Bilgi İşlem Sistemi. V.2.3"));
-  EXPECT_EQ(Genel::SozlesmeSeri, QStringLiteral("AB"));
-  EXPECT_EQ(Genel::FaturaSeri, QStringLiteral("FT"));
+  frmMain* ana = &Baslat();
+  EXPECT_EQ(Kutular(), QString());
+  EXPECT_EQ(ana->windowTitle(), u"Kılıç Finans - YTL Velmora Bilgi İşlem Sistemi. V.2.3"_s);
+  EXPECT_EQ(Genel::SozlesmeSeri + Genel::FaturaSeri, u"ABFT"_s);
   ASSERT_NE(ana->arka, nullptr);
-  EXPECT_EQ(ana->arka->Label1->text(), QStringLiteral("Kılıç Finans\n YTL Bilgi Sistemi"));
-  EXPECT_TRUE(ana->arka->isVisible());
+  EXPECT_EQ(ana->arka->Label1->text(), u"Kılıç Finans\n YTL Bilgi Sistemi"_s);
   EXPECT_TRUE(ana->arka->Label1->isVisible());
 
   // The background follows every change of the window's size.
@@ -93,92 +56,88 @@ TEST_F(Kabuk, FirmaKaydiBaslikVeGenelDegerler) {
   EXPECT_EQ(ana->arka->width(), 1100 - ekran::Twip(300));
 
   // An empty name is a name: the title begins with the separator.
-  Genel::Baglanti.Calistir(QStringLiteral("UPDATE Firma SET Soyadi = ''"));
-  ana = Baslat();
-  EXPECT_TRUE(Mesajlar().isEmpty());
-  EXPECT_TRUE(ana->windowTitle().startsWith(QStringLiteral(" - YTL ")));
+  Genel::Baglanti.Calistir("UPDATE Firma SET Soyadi = ''");
+  ana = &Baslat();
+  EXPECT_EQ(Kutular(), QString());
+  EXPECT_TRUE(ana->windowTitle().startsWith(u" - YTL "_s));
 }
 
+// Each bad state of the file: the clerk is told, the settings screen opens,
+// the window stays, and the file is left exactly as it was.
 TEST_F(Kabuk, KullanilamayanVeriTabaniDokunulmazKalir) {
-  struct Durum {
-    const char* ad;
-    std::function<void(Kabuk&)> hazirla;
-  };
-  const QList<Durum> durumlar = {
+  std::unique_ptr<db::Baglanti> diger;  // another program holding the file
+  const std::pair<const char*, std::function<bool()>> durumlar[] = {
       {"firma alanı boş",  // an older database's row of Nulls
-       [](Kabuk&) { Genel::Baglanti.Calistir(QStringLiteral("UPDATE Firma SET Soyadi = NULL")); }},
-      {"firma satırı yok",
-       [](Kabuk&) { Genel::Baglanti.Calistir(QStringLiteral("DELETE FROM Firma")); }},
-      {"firma tablosu yok",
-       [](Kabuk&) { Genel::Baglanti.Calistir(QStringLiteral("DROP TABLE Firma")); }},
+       [] { return Genel::Baglanti.Calistir("UPDATE Firma SET Soyadi = NULL"), true; }},
+      {"firma satırı yok", [] { return Genel::Baglanti.Calistir("DELETE FROM Firma"), true; }},
+      {"firma tablosu yok", [] { return Genel::Baglanti.Calistir("DROP TABLE Firma"), true; }},
       {"seri boş",
-       [](Kabuk& k) {
-         k.FirmaDoldur();
-         Genel::Baglanti.Calistir(QStringLiteral("UPDATE Firma SET FaturaSeri = NULL"));
+       [] {
+         FirmaDoldur();
+         Genel::Baglanti.Calistir("UPDATE Firma SET FaturaSeri = NULL");
+         return true;
        }},
       {"veri tabanı olmayan dosya",
-       [](Kabuk& k) {
+       [] {
          Genel::Baglanti.Kapat();
-         QFile f(k.Yol());
-         ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-         f.write("Bu bir veri tabanı değil, müşteri listesinin eski kopyası.\n");
+         QFile f(Yol());
+         return f.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
+                f.write("Bu bir veri tabanı değil, müşteri listesinin eski kopyası.\n") > 0;
+       }},
+      {"başka program kilitli tutarken",
+       [&diger] {
+         FirmaDoldur();
+         Genel::Baglanti.Kapat();
+         diger = std::make_unique<db::Baglanti>();
+         diger->Ac(Yol());
+         diger->Calistir("BEGIN EXCLUSIVE");
+         diger->Calistir("UPDATE Firma SET Adi = 'kilit'");
+         return true;
+       }},
+      {"salt okunur dosya",  // root writes read-only files anyway
+       [] {
+         FirmaDoldur();
+         Genel::Baglanti.Kapat();
+         QFile::setPermissions(Yol(), QFileDevice::ReadOwner);
+         return geteuid() != 0;
        }},
   };
-  for (const Durum& d : durumlar) {
-    SCOPED_TRACE(d.ad);
+  for (const auto& [ad, hazirla] : durumlar) {
+    SCOPED_TRACE(ad);
+    ana_.reset();
     TearDown();
     SetUp();
-    d.hazirla(*this);
+    if (!hazirla()) continue;
     Genel::Baglanti.Kapat();
-    const QByteArray once = Dosya();
-    auto ana = Baslat();
-    DbHatasiBekle(*ana);
-    EXPECT_EQ(Dosya(), once);
+    const QByteArray once = test::Icerik(Yol());
+    frmMain& ana = Baslat();
+    EXPECT_EQ(Kutular(), u"Kritik HATA: Veri tabanı açılamadı. Ayarlarınızı kontrol ediniz!"_s);
+    EXPECT_NE(ekran::Acik("frmIni"), nullptr);
+    EXPECT_TRUE(ana.isVisible());
+    EXPECT_EQ(test::Icerik(Yol()), once);
+    if (diger) diger->Calistir("ROLLBACK");
+    diger.reset();
   }
 }
 
-TEST_F(Kabuk, BaskaProgramKilitliTutarken) {
-  FirmaDoldur();
-  Genel::Baglanti.Kapat();
-  db::Baglanti diger;
-  diger.Ac(Yol());
-  diger.Calistir(QStringLiteral("BEGIN EXCLUSIVE"));
-  diger.Calistir(QStringLiteral("UPDATE Firma SET Adi = 'kilit'"));
-  auto ana = Baslat();
-  DbHatasiBekle(*ana);
-  diger.Calistir(QStringLiteral("ROLLBACK"));
-}
-
-TEST_F(Kabuk, SaltOkunurDosya) {
-  if (geteuid() == 0) GTEST_SKIP() << "root writes read-only files anyway";
-  FirmaDoldur();
-  Genel::Baglanti.Kapat();
-  QFile::setPermissions(Yol(), QFileDevice::ReadOwner);
-  const QByteArray once = Dosya();
-  auto ana = Baslat();
-  DbHatasiBekle(*ana);
-  EXPECT_EQ(Dosya(), once);
-}
-
 TEST_F(Kabuk, AyarDiziniYoksaProgramBiter) {
-  QFile engel(ayarDizini() + QStringLiteral("/dosya"));
+  QFile engel(ayarDizini() + u"/dosya"_s);
   ASSERT_TRUE(engel.open(QIODevice::WriteOnly));
   engel.close();
-  qputenv("VELMORA_AYAR", (engel.fileName() + QStringLiteral("/alt")).toUtf8());
+  qputenv("VELMORA_AYAR", (engel.fileName() + u"/alt"_s).toUtf8());
   Genel::Baglanti.Kapat();
   frmMain ana;
   ana.show();
   EXPECT_FALSE(ana.Form_Load());
-  EXPECT_EQ(MesajMetinleri(), QStringList{QStringLiteral("Windows Dizini Bulunamadı!!!")});
-  EXPECT_EQ(Mesajlar()[0].baslik, QStringLiteral("ÖNEMLİ HATA"));
+  EXPECT_EQ(Kutular(), u"Kritik ÖNEMLİ HATA: Windows Dizini Bulunamadı!!!"_s);
   EXPECT_FALSE(Genel::Baglanti.Acik());
 }
 
 TEST_F(Kabuk, MenuVeEkranlar) {
   FirmaDoldur();
-  auto ana = Baslat();
+  frmMain* ana = &Baslat();
   // Switched-off entries stay off even when their screen exists.
-  ekran::Kaydet(QStringLiteral("frmNoDegis"), [] { return new QWidget; });
+  ekran::Kaydet(u"frmNoDegis"_s, [] { return new QWidget; });
   ana->MenuDurumu();
   EXPECT_FALSE(ana->mnuSozNoDegis->isEnabled());
   EXPECT_FALSE(ana->mnuYTL->isEnabled());
@@ -186,19 +145,19 @@ TEST_F(Kabuk, MenuVeEkranlar) {
 
   // Each screen exists once; asking again brings the same one forward.
   ana->mnuAbout->trigger();
-  QWidget* ilk = ekran::Acik(QStringLiteral("frmhakkinda"));
+  QWidget* ilk = ekran::Acik(u"frmhakkinda"_s);
   ASSERT_NE(ilk, nullptr);
   ana->mnuAyarlar->trigger();
   ana->mnuAbout->trigger();
-  EXPECT_EQ(ekran::Acik(QStringLiteral("frmhakkinda")), ilk);
+  EXPECT_EQ(ekran::Acik(u"frmhakkinda"_s), ilk);
   EXPECT_EQ(ana->mdi->subWindowList().size(), 2);
   EXPECT_EQ(ana->mdi->activeSubWindow()->widget(), ilk);
   auto* hakkinda = static_cast<frmhakkinda*>(ilk);
-  EXPECT_EQ(hakkinda->windowTitle(), QStringLiteral("Bilgi"));
-  EXPECT_EQ(hakkinda->lblVersiyon->text(), QStringLiteral("Versiyon: 2.3. Yapım:2"));
+  EXPECT_EQ(hakkinda->windowTitle(), u"Bilgi"_s);
+  EXPECT_EQ(hakkinda->lblVersiyon->text(), u"Versiyon: 2.3. Yapım:2"_s);
   hakkinda->Command1->click();
   test::Isle();
-  EXPECT_EQ(ekran::Acik(QStringLiteral("frmhakkinda")), nullptr);
+  EXPECT_EQ(ekran::Acik(u"frmhakkinda"_s), nullptr);
   EXPECT_EQ(ana->mdi->subWindowList().size(), 1);
 }
 
@@ -207,10 +166,9 @@ TEST_F(Kabuk, MenuVeEkranlar) {
 class Ayarlar : public Kabuk {
  protected:
   frmIni* Ac() {
-    ana_ = Baslat();
-    return static_cast<frmIni*>(ekran::Ac(QStringLiteral("frmIni")));
+    Baslat();
+    return static_cast<frmIni*>(ekran::Ac(u"frmIni"_s));
   }
-  std::unique_ptr<frmMain> ana_;
   void SetUp() override {
     Kabuk::SetUp();
     FirmaDoldur();
@@ -221,36 +179,30 @@ TEST_F(Ayarlar, DosyaYokkenIkiVarsayilanTakimi) {
   frmIni* f = Ac();
   ASSERT_NE(f, nullptr);
   // The screen's own defaults differ from the loader's for these two keys.
-  EXPECT_EQ(f->txtBasBosluk->text(), QStringLiteral("15"));
-  EXPECT_EQ(f->txtIlave->text(), QStringLiteral("1"));
-  EXPECT_EQ(f->txtSonBosluk->text(), QStringLiteral("10"));
-  EXPECT_EQ(Genel::BasBosluk, 11);
-  EXPECT_EQ(Genel::IlaveGun, 3);
-  EXPECT_EQ(f->cmbFatura->currentText(), QStringLiteral("LPT2"));
-  EXPECT_EQ(f->cmbSozlesme->currentText(), QStringLiteral("LPT1"));
+  EXPECT_EQ(QStringList({f->txtBasBosluk->text(), f->txtIlave->text(), f->txtSonBosluk->text(),
+                         f->cmbFatura->currentText(), f->cmbSozlesme->currentText(),
+                         f->txtLimitAdet->text()})
+                .join('|'),
+            u"15|1|10|LPT2|LPT1|22"_s);
+  EXPECT_EQ(QList<int>({Genel::BasBosluk, Genel::IlaveGun}), QList<int>({11, 3}));
   EXPECT_TRUE(f->txtFatura->isHidden());
-  EXPECT_EQ(f->txtLimitAdet->text(), QStringLiteral("22"));
 
   // Saving writes the screen's values, and the globals follow at once.
   f->cmdKaydet_Click();
   test::Isle();
-  EXPECT_EQ(Genel::BasBosluk, 15);
-  EXPECT_EQ(Genel::IlaveGun, 1);
-  EXPECT_EQ(Genel::IniOku(Genel::IniDosya, QStringLiteral("Hesap"), QStringLiteral("YTL"), {}),
-            QStringLiteral("1"));
-  EXPECT_EQ(ekran::Acik(QStringLiteral("frmIni")), nullptr);
+  EXPECT_EQ(QList<int>({Genel::BasBosluk, Genel::IlaveGun}), QList<int>({15, 1}));
+  EXPECT_EQ(Genel::IniOku(Genel::IniDosya, u"Hesap"_s, u"YTL"_s, {}), u"1"_s);
+  EXPECT_EQ(ekran::Acik(u"frmIni"_s), nullptr);
 }
 
 TEST_F(Ayarlar, DigerYaziciVeDosyadakiDegerler) {
-  Genel::IniYaz(Genel::IniDosya, QStringLiteral("Fatura"), QStringLiteral("Printer"),
-                QStringLiteral("//sunucu/nokta-vuruslu"));
-  Genel::IniYaz(Genel::IniDosya, QStringLiteral("Sozlesme"), QStringLiteral("DetayLimit"),
-                QStringLiteral("1"));
+  Genel::IniYaz(Genel::IniDosya, u"Fatura"_s, u"Printer"_s, u"//sunucu/nokta-vuruslu"_s);
+  Genel::IniYaz(Genel::IniDosya, u"Sozlesme"_s, u"DetayLimit"_s, u"1"_s);
   frmIni* f = Ac();
-  EXPECT_EQ(f->cmbFatura->currentText(), QStringLiteral("Diğer"));
+  EXPECT_EQ(f->cmbFatura->currentText(), u"Diğer"_s);
   EXPECT_FALSE(f->txtFatura->isHidden());
-  EXPECT_EQ(f->txtFatura->text(), QStringLiteral("//sunucu/nokta-vuruslu"));
-  EXPECT_EQ(f->txtLimitAdet->text(), QStringLiteral("1"));
+  EXPECT_EQ(f->txtFatura->text(), u"//sunucu/nokta-vuruslu"_s);
+  EXPECT_EQ(f->txtLimitAdet->text(), u"1"_s);
   EXPECT_EQ(Genel::DetayLimit, 2);
 
   // Choosing a port hides the box; choosing "Diğer" empties and shows it.
@@ -263,18 +215,11 @@ TEST_F(Ayarlar, DigerYaziciVeDosyadakiDegerler) {
   EXPECT_FALSE(f->txtSozlesme->isHidden());
 
   // An empty printer is refused and nothing is written.
-  const QByteArray once = [] {
-    QFile d(Genel::IniDosya);
-    return d.open(QIODevice::ReadOnly) ? d.readAll() : QByteArray();
-  }();
+  const QByteArray once = test::Icerik(Genel::IniDosya);
   f->cmdKaydet_Click();
-  EXPECT_EQ(MesajMetinleri(), QStringList{QStringLiteral("Geçersiz Yazıcı Tanımı")});
-  EXPECT_EQ(Mesajlar().last().baslik, QStringLiteral("HATA"));
-  EXPECT_NE(ekran::Acik(QStringLiteral("frmIni")), nullptr);
-  QFile d(Genel::IniDosya);
-  ASSERT_TRUE(d.open(QIODevice::ReadOnly));
-  EXPECT_EQ(d.readAll(), once);
-  d.close();
+  EXPECT_EQ(Kutular(), u"Kritik HATA: Geçersiz Yazıcı Tanımı"_s);
+  EXPECT_NE(ekran::Acik(u"frmIni"_s), nullptr);
+  EXPECT_EQ(test::Icerik(Genel::IniDosya), once);
 
   test::Yaz(f->txtSozlesme, QStringLiteral("/dev/usb/lp0"));
   test::Yaz(f->txtTarihBas, QStringLiteral("4x"));
@@ -284,12 +229,9 @@ TEST_F(Ayarlar, DigerYaziciVeDosyadakiDegerler) {
     QTest::keyClick(k, Qt::Key_Space);
   }
   f->cmdKaydet_Click();
-  EXPECT_EQ(Genel::PrinterSozlesme, QStringLiteral("/dev/usb/lp0"));
-  EXPECT_EQ(Genel::PrinterFatura, QStringLiteral("LPT3"));
-  EXPECT_EQ(Genel::TarihBas, 4);
-  EXPECT_TRUE(Genel::HaftaSonu);
-  EXPECT_TRUE(Genel::SadeceGoster);
-  EXPECT_EQ(Genel::DetayLimit, 2);
+  EXPECT_EQ(Genel::PrinterSozlesme + '|' + Genel::PrinterFatura, u"/dev/usb/lp0|LPT3"_s);
+  EXPECT_EQ(QList<int>({Genel::TarihBas, Genel::DetayLimit}), QList<int>({4, 2}));
+  EXPECT_TRUE(Genel::HaftaSonu && Genel::SadeceGoster);
 }
 
 TEST_F(Ayarlar, YazilanlarBaskaEkrandanDonunceKaybolur) {
@@ -300,7 +242,7 @@ TEST_F(Ayarlar, YazilanlarBaskaEkrandanDonunceKaybolur) {
   ekran::Ac(QStringLiteral("frmhakkinda"));
   ekran::Ac(QStringLiteral("frmIni"));
   test::Isle();
-  EXPECT_EQ(f->txtBasBosluk->text(), QStringLiteral("15"));
+  EXPECT_EQ(f->txtBasBosluk->text(), u"15"_s);
 }
 
 }  // namespace
