@@ -17,6 +17,7 @@
 #include "db/Kayitlar.h"
 #include "tests/support/Klavye.h"
 #include "tests/support/Ortam.h"
+#include "tests/support/Satirlar.h"
 
 namespace test {
 
@@ -57,17 +58,7 @@ class SozlesEkran : public Ortam {
     Genel::Baglanti.Calistir(sql, deger);
   }
   // The rows of a query: a line each, the fields joined by "|", Null as "NULL".
-  static QString Tablo(const QString& sql) {
-    db::Kayitlar rs = Genel::Baglanti.Sorgu(sql);
-    QStringList satirlar;
-    for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext()) {
-      QStringList alanlar;
-      for (int i = 0; i < rs.AlanSayisi(); ++i)
-        alanlar << (db::NullMu(rs.Fields(i)) ? QStringLiteral("NULL") : rs.Fields(i).toString());
-      satirlar << alanlar.join('|');
-    }
-    return satirlar.join('\n');
-  }
+  static QString Tablo(const QString& sql) { return test::KayitMetni(Genel::Baglanti.Sorgu(sql)); }
   // A natural person: MusteriQry names him "Adi Soyadi".
   static void Musteri(qint64 no, const QString& soyadi, const QString& adi) {
     Calistir(

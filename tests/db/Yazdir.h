@@ -9,24 +9,15 @@
 #include <QStringList>
 #include <QTemporaryDir>
 #include <ostream>
+#include <utility>
 
 #include "db/Baglanti.h"
 #include "db/Kayitlar.h"
+#include "tests/support/Satirlar.h"
 
 inline void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
 
-// Every row from the first, one line each, fields separated by "|", Null as
-// "NULL" (so that it never looks like the empty text).
-inline QString Satirlar(db::Kayitlar rs) {
-  QStringList satirlar;
-  for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext()) {
-    QStringList alanlar;
-    for (int i = 0; i < rs.AlanSayisi(); ++i)
-      alanlar << (db::NullMu(rs.Fields(i)) ? QStringLiteral("NULL") : rs.Fields(i).toString());
-    satirlar << alanlar.join(QLatin1Char('|'));
-  }
-  return satirlar.join(QLatin1Char('\n'));
-}
+inline QString Satirlar(db::Kayitlar rs) { return test::KayitMetni(std::move(rs)); }
 
 class VeriTabani : public ::testing::Test {
  protected:

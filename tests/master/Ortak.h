@@ -5,6 +5,7 @@
 #include "core/Genel.h"
 #include "db/Kayitlar.h"
 #include "tests/support/Ortam.h"
+#include "tests/support/Satirlar.h"
 
 namespace test {
 
@@ -14,15 +15,7 @@ inline void Sql(const QString& sql, const QVariantList& degerler = {}) {
 
 // A line each, the fields joined by "|", Null as "NULL".
 inline QString Satirlar(const QString& sql, const QVariantList& degerler = {}) {
-  db::Kayitlar rs = Genel::Baglanti.Sorgu(sql, degerler);
-  QStringList satirlar;
-  for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext()) {
-    QStringList s;
-    for (int i = 0; i < rs.AlanSayisi(); ++i)
-      s << (db::NullMu(rs.Fields(i)) ? QStringLiteral("NULL") : rs.Fields(i).toString());
-    satirlar << s.join(QLatin1Char('|'));
-  }
-  return satirlar.join(QLatin1Char('\n'));
+  return KayitMetni(Genel::Baglanti.Sorgu(sql, degerler));
 }
 
 }  // namespace test
