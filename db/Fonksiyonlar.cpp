@@ -27,17 +27,6 @@ int TurkceHarmanla(void*, int n1, const void* a, int n2, const void* b) {
                              static_cast<const char*>(b), std::size_t(n2));
 }
 
-// TurkceSira(x): the bytes of x's Turkish sort key, for an ORDER BY over
-// many rows that compares keys made once instead of decoding both texts at
-// every comparison. Null stays Null.
-void TurkceSira(sqlite3_context* ctx, int, sqlite3_value** argv) {
-  if (sqlite3_value_type(argv[0]) == SQLITE_NULL) return sqlite3_result_null(ctx);
-  const char* p = Metni(argv[0]);
-  std::string anahtar;
-  turkce::SiraAnahtari(p, std::size_t(sqlite3_value_bytes(argv[0])), anahtar);
-  sqlite3_result_blob64(ctx, anahtar.data(), anahtar.size(), SQLITE_TRANSIENT);
-}
-
 // --- LIKE
 
 // One element of a pattern: a plain character, "_" or "%".
@@ -256,7 +245,7 @@ void FonksiyonlariKaydet(sqlite3* db) {
   };
   static constexpr Islev kIslevler[] = {
       {"like", 2, Like},         {"like", 3, Like}, {"Weekday", 1, Weekday},
-      {"GunFarki", 2, GunFarki}, {"Val", 1, Val},      {"TurkceSira", 1, TurkceSira},
+      {"GunFarki", 2, GunFarki}, {"Val", 1, Val},
   };
   int rc = sqlite3_create_collation(db, "TURKCE", SQLITE_UTF8, nullptr, TurkceHarmanla);
   for (const Islev& i : kIslevler) {
