@@ -52,10 +52,11 @@ void frmMusteriDurum::Form_Load() {
   // Wide enough for the names near the top; an amount column has room for
   // tens of millions wherever in the list they stand.
   DataGrid1->resizeColumnsToContents();
-  const int tutar = DataGrid1->fontMetrics().horizontalAdvance(QStringLiteral("99.999.999,99")) + 12;
+  const int tutar =
+      DataGrid1->fontMetrics().horizontalAdvance(QStringLiteral("99.999.999,99")) + 12;
   const QVector<csv::Sutun> sutunlar = musteridurum::Sutunlar();
   for (int i = 0; i < sutunlar.size(); ++i)
-    if (sutunlar[i].basamak == 2)
+    if (sutunlar[i].bicim == csv::Sutun::Bicim::Sayi && sutunlar[i].basamak == 2)
       DataGrid1->setColumnWidth(i, std::max(DataGrid1->columnWidth(i), tutar));
 }
 
